@@ -1,0 +1,11 @@
+#ifndef SAISKUKO_H
+#define SAISKUKO_H
+
+// Umbrella header: every public type of the library.
+#include <saiskuko/saiskuko_global.h>
+#include <saiskuko/records.h>
+#include <saiskuko/chband.h>
+#include <saiskuko/chbandstore.h>
+#include <saiskuko/chstd.h>
+
+#endif

@@ -1,0 +1,38 @@
+#include <saiskuko/chband.h>
+
+ChBand::ChBand(QObject *parent)
+    : QObject(parent), IsGlobal(false), SubBands(), NumSubBand(0)
+{
+    // SubBands() zeroes every field, so a store on the heap reads like the
+    // static one; -9 marks a record that was never written.
+    for (stSubBand &record : SubBands)
+        record.Link = -9;
+}
+
+ChBand::~ChBand() = default;
+
+void ChBand::SetBandName(QString name)
+{
+    BandName = name;
+    if (BandName == QLatin1String("Band Global"))
+        IsGlobal = true;
+}
+
+QString ChBand::GetBandName()
+{
+    return BandName;
+}
+
+ChTechnology::ChTechnology(QObject *parent) : QObject(parent), NumBand(0) {}
+
+ChTechnology::~ChTechnology() = default;
+
+void ChTechnology::SetTechName(QString name)
+{
+    TechName = name;
+}
+
+QString ChTechnology::GetTechName()
+{
+    return TechName;
+}

@@ -1,0 +1,13 @@
+#include <saiskuko/chstd.h>
+
+// Built by the library's static initialisation; destroyed at unload.
+ChBandStore G_CHSTD;
+
+ChStd::ChStd(QObject *parent) : QObject(parent) {}
+
+ChStd::~ChStd() = default;
+
+ChBandStore *ChStd::GetChStdPointer()
+{
+    return &G_CHSTD;
+}
