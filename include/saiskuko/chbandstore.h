@@ -28,6 +28,70 @@ public:
     void MakeBandInfo();
     void TestFunction();
 
+    // --- enumeration: code = 100 x technology slot + band slot ---
+    int GetEnumulator(QString tech, QString band) const;
+    QString GetEnumulator(int code) const;
+    int GetTech(int code) const;
+    int GetBand(int code) const;
+    QString GetBandName(int code) const;
+    int GetNumBand(QString tech) const;
+    QList<QString> GetBandList(QString tech) const;
+
+    // --- classification ---
+    bool IsChannelStandard(QString standard) const;
+    bool IsChannelStandard(int code) const;
+    bool CheckChannelStandardIsLTETDD(QString band) const;
+    bool CheckChannelStandardIsTDS(QString band) const;
+    bool CheckChannelStandardIsWiMax(QString band) const;
+
+    // --- band limits (link: 1 uplink, 0 downlink) ---
+    double GetStartFreq(QString tech, QString band) const;
+    double GetStartFreq(QString tech, QString band, int link) const;
+    double GetStopFreq(QString tech, QString band, int link) const;
+    int GetStartChannelNo(QString tech, QString band, int link) const;
+    int GetStopChannelNo(QString tech, QString band, int link) const;
+    int GetNumSubBand(QString tech, QString band) const;
+    bool IsUplinkOnly(QString tech, QString band) const;
+    double GetDefaultIntBW(QString tech) const;
+
+    // --- channel to frequency (MHz; -1.0 when the channel is in no record) ---
+    double GetFreq(QString tech, QString band, int link, int channel) const;
+    double GetFreq(QString standard, int link, int channel) const;
+    double GetFreq(QString standard, QString direction, int channel) const;
+    double GetFreqNoLimit(QString tech, QString band, int link, int channel) const;
+    bool IsExistChannelNo(QString tech, QString band, int link, int channel) const;
+    int GetStopChannelNo_InSample(QString tech, QString band, int channel, int link) const;
+
+    // --- frequency to channel (exact raster frequencies only; -1 otherwise) ---
+    int GetChNumFromFreq(QString tech, QString band, int link, double freqMHz, int preferred) const;
+    int GetChNumFromFreq(QString standard, int link, double freqMHz, int preferred) const;
+    int GetChNumFromFreq(QString standard, QString direction, double freqMHz, int preferred) const;
+    int GetOffsetChUpDown(QString tech, QString band, int channel, int link) const;
+    int GetOffsetChUpDown(QString standard, int link, int channel) const;
+    int GetOffsetChUpDown(QString standard, QString direction, int channel) const;
+
+    // --- the same queries by channel standard enumerator ---
+    int GetNumSubBand(int code) const;
+    int GetStartChannelNo(int code, int link) const;
+    int GetStopChannelNo(int code, int link) const;
+    int GetOffsetChUpDown(int code, int link, int channel) const;
+    int GetChNumFromFreq(int code, int link, double freqMHz, int preferred) const;
+    double GetDefaultIntBW(int code) const;
+    bool IsUplinkOnly(int code) const;
+    double GetStartFreq(int code) const;
+    double GetStartFreq(int code, int link) const;
+    double GetStopFreq(int code, int link) const;
+    bool IsExistChannelNo(int code, int link, int channel) const;
+    double GetFreq(int code, int link, int channel) const;
+
+    // --- frequency search and screen texts ---
+    QList<ChInfo> GetChInfoFromFreq(double freqMHz) const;
+    QList<int> GetAvailableChannels(QString channelStandard, QString direction, double lowMHz,
+                                    double highMHz) const;
+    QString GetChNumRefString(QString tech, QString band, int linkSel) const;
+    QString GetChNumRefString_List(QString tech, QString band, int linkSel) const;
+    QString GetFreqRefString_List(QString tech, QString band, int linkSel) const;
+
     // --- channel number formulas (channel -> MHz), in order of definition ---
     static double chstdGetCDMA_Band0_1(int channel, double base, int ref);
     static double chstdGetCDMA_Band0_2(int channel, double base, int ref);
@@ -169,6 +233,12 @@ private:
     int LookupTechSlot(const QString &tech) const;
     int LookupBandSlot(int techSlot, const QString &band) const;
     bool HasRoomFor(int techSlot, const QString &band) const;
+    // The band that a (lenient) pair of names selects.
+    const ChBand &BandOf(const QString &tech, const QString &band) const;
+    // Strict lookup: the enumerator, or -1 after a warning naming the culprit.
+    int StrictEnumerator(const QString &tech, const QString &band) const;
+    // The names behind an enumerator, or false after a warning.
+    bool NamesOfEnumerator(int code, QString *tech, QString *band) const;
 };
 
 #endif

@@ -17,6 +17,11 @@ public:
     ~ChStd() override;
 
     static ChBandStore *GetChStdPointer();
+
+    // Screen tables: the bands of the technologies an instrument mode covers.
+    static stCHList GetBandListByMode(int mode, int unused, int linkSel);
+    static void SetBandListName(QString tech, stCHList &list);
+    static void SetBandListRange(QString tech, int linkSel, stCHList &list);
 };
 
 #endif

@@ -1,5 +1,7 @@
 #include <saiskuko/chbandstore.h>
 
+#include "store/wrapping.h"
+
 // The channel number formulas. Each is base + (channel - offset) x step:
 // the difference in 32-bit two's complement (channels far outside a band wrap
 // instead of overflowing), converted to double, multiplied (rounded) and then
@@ -8,20 +10,10 @@
 
 namespace {
 
-inline qint32 wrappedDifference(qint32 channel, qint32 offset)
-{
-    return static_cast<qint32>(static_cast<quint32>(channel) - static_cast<quint32>(offset));
-}
-
 inline double linear(int channel, int offset, double base, double step)
 {
     const double product = static_cast<double>(wrappedDifference(channel, offset)) * step;
     return base + product;
-}
-
-inline qint32 wrappedTimes5(qint32 channel)
-{
-    return static_cast<qint32>(5u * static_cast<quint32>(channel));
 }
 
 } // namespace

@@ -156,3 +156,9 @@ void ChBandStore::SetBandInfo(QString tech, QString band, int startChannelNo, in
     record.UplinkOnly = uplinkOnly;
     ++target.NumSubBand;
 }
+
+const ChBand &ChBandStore::BandOf(const QString &tech, const QString &band) const
+{
+    const int t = LookupTechSlot(tech);
+    return Technologies[t].Bands[LookupBandSlot(t, band)];
+}

@@ -1,0 +1,94 @@
+#include <saiskuko/chbandstore.h>
+
+#include "store/bandaccess.h"
+#include "store/techslots.h"
+
+#include <QtCore/QLatin1String>
+#include <QtCore/QStringList>
+
+namespace {
+
+// LTE-FDD, WCDMA and 5G NR show one record chosen by the link selector; the
+// other technologies show the first record of each consecutive pair.
+bool isPairedTechnology(int techSlot)
+{
+    return techSlot == SlotLteFdd || techSlot == SlotWcdma || techSlot == SlotNr;
+}
+
+bool isGlobalBandName(const QString &band)
+{
+    return band == QLatin1String("Band Global");
+}
+
+// The records a text shows, in order.
+QList<const stSubBand *> shownRecords(const ChBand &b, int techSlot, int linkSel)
+{
+    QList<const stSubBand *> shown;
+    if (isPairedTechnology(techSlot)) {
+        shown.append(&b.SubBands[linkSel != 0 ? 0 : 1]);
+        return shown;
+    }
+    const int n = recordCount(b);
+    const int ranges = (n == 1 ? 2 : n) / 2;
+    for (int i = 0; i < ranges; ++i)
+        shown.append(&b.SubBands[2 * i]);
+    return shown;
+}
+
+QString channelRange(const char *format, const stSubBand &r)
+{
+    return QString::asprintf(format, r.StartChannelNo, r.StopChannelNo);
+}
+
+} // namespace
+
+QString ChBandStore::GetChNumRefString(QString tech, QString band, int linkSel) const
+{
+    if (isGlobalBandName(band))
+        return QStringLiteral(" ");
+    const int t = LookupTechSlot(tech);
+    const ChBand &b = Technologies[t].Bands[LookupBandSlot(t, band)];
+    const QList<const stSubBand *> shown = shownRecords(b, t, linkSel);
+    if (isPairedTechnology(t))
+        return QLatin1String("(") + channelRange("%d - %d)", *shown.first());
+
+    // "(a - b /c - d /" loses its last character, then gets ")": the spacing
+    // "(1 - 799 /991 - 1023 )" is what the screens have always shown.
+    QString text = QStringLiteral("(");
+    for (const stSubBand *r : shown)
+        text += channelRange("%d - %d /", *r);
+    text.chop(1);
+    text += QLatin1String(")");
+    return text;
+}
+
+QString ChBandStore::GetChNumRefString_List(QString tech, QString band, int linkSel) const
+{
+    if (isGlobalBandName(band))
+        return QStringLiteral(" ");
+    const int t = LookupTechSlot(tech);
+    const ChBand &b = Technologies[t].Bands[LookupBandSlot(t, band)];
+    const QList<const stSubBand *> shown = shownRecords(b, t, linkSel);
+    if (isPairedTechnology(t))
+        return QLatin1String("(") + channelRange("%d - %d)", *shown.first());
+
+    QStringList pieces;
+    for (const stSubBand *r : shown)
+        pieces.append(channelRange("(%d - %d)", *r));
+    return pieces.join(QLatin1Char('\n'));
+}
+
+QString ChBandStore::GetFreqRefString_List(QString tech, QString band, int linkSel) const
+{
+    if (isGlobalBandName(band))
+        return QStringLiteral(" ");
+    const int t = LookupTechSlot(tech);
+    const ChBand &b = Technologies[t].Bands[LookupBandSlot(t, band)];
+    QStringList pieces;
+    for (const stSubBand *r : shownRecords(b, t, linkSel)) {
+        const double first = GetFreq(tech, band, linkSel, r->StartChannelNo);
+        const double last = GetFreq(tech, band, linkSel, r->StopChannelNo);
+        pieces.append(QStringLiteral("(%1 - %2)").arg(first, 0, 'f', 2).arg(last, 0, 'f', 2));
+    }
+    return pieces.join(QLatin1Char('\n'));
+}

@@ -1,0 +1,80 @@
+#include <saiskuko/chbandstore.h>
+
+#include "store/bandaccess.h"
+#include "store/standardtext.h"
+
+double ChBandStore::GetFreq(QString tech, QString band, int link, int channel) const
+{
+    const ChBand &b = BandOf(tech, band);
+    // Time-division bands share one range in both directions, so there every
+    // record is eligible whatever its link. Asked once, only when needed.
+    int timeDivision = -1;
+    for (int i = 0; i < recordCount(b); ++i) {
+        const stSubBand &r = b.SubBands[i];
+        bool eligible = r.Link == link;
+        if (!eligible) {
+            if (timeDivision < 0) {
+                timeDivision = CheckChannelStandardIsTDS(b.BandName)
+                               || CheckChannelStandardIsLTETDD(b.BandName)
+                               || CheckChannelStandardIsWiMax(b.BandName);
+            }
+            eligible = timeDivision || r.UplinkOnly;
+        }
+        if (eligible && holdsChannel(r, channel))
+            return recordFreq(r, channel);
+    }
+    return -1.0;
+}
+
+double ChBandStore::GetFreq(QString standard, int link, int channel) const
+{
+    QString tech, band;
+    if (!splitStandardOrWarn(standard, &tech, &band))
+        return -1.0;
+    return GetFreq(tech, band, link, channel);
+}
+
+double ChBandStore::GetFreq(QString standard, QString direction, int channel) const
+{
+    return GetFreq(standard, linkOfDirection(direction), channel);
+}
+
+double ChBandStore::GetFreqNoLimit(QString tech, QString band, int link, int channel) const
+{
+    const ChBand &b = BandOf(tech, band);
+    for (int i = 0; i < recordCount(b); ++i) {
+        const stSubBand &r = b.SubBands[i];
+        if (r.Link == link || r.UplinkOnly)
+            return recordFreq(r, channel);
+    }
+    return -1.0;
+}
+
+bool ChBandStore::IsExistChannelNo(QString tech, QString band, int link, int channel) const
+{
+    const ChBand &b = BandOf(tech, band);
+    for (int i = 0; i < recordCount(b); ++i) {
+        const stSubBand &r = b.SubBands[i];
+        if (r.Link == link && holdsChannel(r, channel))
+            return true;
+    }
+    return false;
+}
+
+int ChBandStore::GetStopChannelNo_InSample(QString tech, QString band, int channel, int link) const
+{
+    const ChBand &b = BandOf(tech, band);
+    const int n = recordCount(b);
+    // A band's uplink and downlink records stand side by side: when record i
+    // is of the other direction, its neighbour i+1 answers for the pair.
+    // Beyond the array a record counts as never written (link -9).
+    auto linkAt = [&](int i) { return i < ChBand::MaxSubBands ? b.SubBands[i].Link : -9; };
+    for (int i = 0; i < n; ++i) {
+        const stSubBand &candidate = (linkAt(i) != link && linkAt(i + 1) == link)
+                                         ? b.SubBands[i + 1]
+                                         : b.SubBands[i];
+        if (holdsChannel(candidate, channel))
+            return candidate.StopChannelNo;
+    }
+    return b.SubBands[0].StopChannelNo;
+}

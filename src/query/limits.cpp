@@ -1,0 +1,120 @@
+#include <saiskuko/chbandstore.h>
+
+#include "store/bandaccess.h"
+
+#include <QtCore/QLatin1String>
+
+namespace {
+
+// The link a channel-limit query falls back to: downlink for anything but 0.
+int fallbackLink(int link)
+{
+    return link == 0 ? 1 : 0;
+}
+
+} // namespace
+
+double ChBandStore::GetStartFreq(QString tech, QString band) const
+{
+    return BandOf(tech, band).SubBands[0].StartFreq;
+}
+
+double ChBandStore::GetStartFreq(QString tech, QString band, int link) const
+{
+    const ChBand &b = BandOf(tech, band);
+    bool found = false;
+    double lowest = 0.0;
+    for (int i = 0; i < recordCount(b); ++i) {
+        const stSubBand &r = b.SubBands[i];
+        if (r.Link == link && (!found || r.StartFreq < lowest)) {
+            lowest = r.StartFreq;
+            found = true;
+        }
+    }
+    return lowest;
+}
+
+double ChBandStore::GetStopFreq(QString tech, QString band, int link) const
+{
+    const ChBand &b = BandOf(tech, band);
+    bool found = false;
+    double highest = 0.0;
+    for (int i = 0; i < recordCount(b); ++i) {
+        const stSubBand &r = b.SubBands[i];
+        if (r.Link == link && (!found || r.StopFreq > highest)) {
+            highest = r.StopFreq;
+            found = true;
+        }
+    }
+    return highest;
+}
+
+int ChBandStore::GetStartChannelNo(QString tech, QString band, int link) const
+{
+    const ChBand &b = BandOf(tech, band);
+    const int n = recordCount(b);
+    bool found = false;
+    int lowest = 0;
+    auto scan = [&](int wanted) {
+        for (int i = 0; i < n; ++i) {
+            const stSubBand &r = b.SubBands[i];
+            if (r.Link != wanted || isPlaceholder(r))
+                continue;
+            if (!found || r.StartChannelNo < lowest)
+                lowest = r.StartChannelNo;
+            found = true;
+        }
+    };
+    scan(link);
+    // A real lowest channel of 0 is an answer, not a miss: no fallback then.
+    if (lowest != 0)
+        return lowest;
+    scan(fallbackLink(link));
+    return lowest;
+}
+
+int ChBandStore::GetStopChannelNo(QString tech, QString band, int link) const
+{
+    const ChBand &b = BandOf(tech, band);
+    const int n = recordCount(b);
+    int highest = 0; // negative stop channels never win
+    auto scan = [&](int wanted) {
+        for (int i = n - 1; i >= 0; --i) {
+            const stSubBand &r = b.SubBands[i];
+            if (r.Link == wanted && !isPlaceholder(r) && r.StopChannelNo > highest)
+                highest = r.StopChannelNo;
+        }
+    };
+    scan(link);
+    if (highest != 0)
+        return highest;
+    scan(fallbackLink(link));
+    return highest;
+}
+
+int ChBandStore::GetNumSubBand(QString tech, QString band) const
+{
+    return BandOf(tech, band).NumSubBand;
+}
+
+bool ChBandStore::IsUplinkOnly(QString tech, QString band) const
+{
+    return BandOf(tech, band).SubBands[0].UplinkOnly;
+}
+
+double ChBandStore::GetDefaultIntBW(QString tech) const
+{
+    static const struct {
+        const char *tech;
+        double hertz;
+    } kBandwidths[] = {
+        {"CDMA", 1230000.0},     {"GSM", 300000.0},       {"WCDMA", 3840000.0},
+        {"LTE-FDD", 10000000.0}, {"LTE-TDD", 10000000.0}, {"TD-SCDMA", 1280000.0},
+        {"WIMAX", 10000000.0},
+    };
+    for (const auto &entry : kBandwidths) {
+        if (tech == QLatin1String(entry.tech))
+            return entry.hertz;
+    }
+    return 1000000.0;
+}

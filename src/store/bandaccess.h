@@ -1,0 +1,37 @@
+#ifndef SAISKUKO_BANDACCESS_H
+#define SAISKUKO_BANDACCESS_H
+
+#include <saiskuko/chband.h>
+
+#include <limits>
+
+// Number of records of a band that may be read, clamped to the array.
+inline int recordCount(const ChBand &band)
+{
+    if (band.NumSubBand <= 0)
+        return 0;
+    return band.NumSubBand < ChBand::MaxSubBands ? band.NumSubBand : ChBand::MaxSubBands;
+}
+
+// Frequency of a channel through the record's own formula; the formula's
+// third argument is always the record's start channel. A record registered
+// without a formula has no frequencies (NaN matches no comparison).
+inline double recordFreq(const stSubBand &record, int channel)
+{
+    if (!record.FreqFunc)
+        return std::numeric_limits<double>::quiet_NaN();
+    return record.FreqFunc(channel, record.BaseFreq, record.StartChannelNo);
+}
+
+inline bool holdsChannel(const stSubBand &record, int channel)
+{
+    return record.StartChannelNo <= channel && channel <= record.StopChannelNo;
+}
+
+// Placeholder records (start edge exactly 1.0) stand for a missing direction.
+inline bool isPlaceholder(const stSubBand &record)
+{
+    return record.StartFreq == 1.0;
+}
+
+#endif
