@@ -1,12 +1,14 @@
 #include <saiskuko/chbandstore.h>
 
+#include "bandplan/formulalist.h"
+#include "bandplan/formulatraits.h"
 #include "store/wrapping.h"
 
-// The channel number formulas. Each is base + (channel - offset) x step:
-// the difference in 32-bit two's complement (channels far outside a band wrap
-// instead of overflowing), converted to double, multiplied (rounded) and then
-// added (rounded). The build forbids contraction into a fused multiply-add,
-// which would change results in the last bit on some targets.
+// Each formula takes the difference in 32-bit two's complement (channels far
+// outside a band wrap instead of overflowing), converts it to double,
+// multiplies (rounded) and then adds (rounded). The build forbids contraction
+// into a fused multiply-add, which would change results in the last bit on
+// some targets.
 
 namespace {
 
@@ -18,151 +20,39 @@ inline double linear(int channel, int offset, double base, double step)
 
 } // namespace
 
-#define SAISKUKO_OFFSET_FORMULA(stem, offset, step)                               \
+#define DEFINE_OFFSET(stem, offset, step)                                         \
     double ChBandStore::chstdGet##stem(int channel, double base, int)             \
     {                                                                             \
         return linear(channel, offset, base, step);                               \
     }
-
-// 5G NR: the offset is the third argument, the channel whose frequency is base.
-#define SAISKUKO_REF_FORMULA(stem, step)                                          \
+#define DEFINE_REF(stem, step)                                                    \
     double ChBandStore::chstdGet##stem(int channel, double base, int ref)         \
     {                                                                             \
         return linear(channel, ref, base, step);                                  \
     }
-
-// WiMAX 5 MHz raster: the product is taken in integer arithmetic.
-#define SAISKUKO_TIMES5_FORMULA(stem)                                             \
+#define DEFINE_TIMES5(stem)                                                       \
     double ChBandStore::chstdGet##stem(int channel, double base, int)             \
     {                                                                             \
         return base + static_cast<double>(wrappedTimes5(channel));                \
     }
 
-// In order of definition. chstdGetWIMAX_Common4 is base + channel / 8, which
-// the 0.125 step gives exactly.
-SAISKUKO_OFFSET_FORMULA(CDMA_Band0_1, 0, 0.03)
-SAISKUKO_OFFSET_FORMULA(CDMA_Band0_2, 1023, 0.03)
-SAISKUKO_OFFSET_FORMULA(CDMA_Band1_4, 0, 0.05)
-SAISKUKO_OFFSET_FORMULA(CDMA_Band2_1, 0, 0.025)
-SAISKUKO_OFFSET_FORMULA(CDMA_Band2_2, 1328, 0.025)
-SAISKUKO_OFFSET_FORMULA(CDMA_Band3_1, 0, 0.0125)
-SAISKUKO_OFFSET_FORMULA(CDMA_Band3_2, 800, 0.0125)
-SAISKUKO_OFFSET_FORMULA(CDMA_Band3_3, 1040, 0.0125)
-SAISKUKO_OFFSET_FORMULA(CDMA_Band3_4, 1200, 0.0125)
-SAISKUKO_OFFSET_FORMULA(CDMA_Band5_1, 1, 0.025)
-SAISKUKO_OFFSET_FORMULA(CDMA_Band5_2, 512, 0.025)
-SAISKUKO_OFFSET_FORMULA(CDMA_Band5_3, 1024, 0.02)
-SAISKUKO_OFFSET_FORMULA(CDMA_Band5_4, 1792, 0.02)
-SAISKUKO_OFFSET_FORMULA(CDMA_Band10_2, 720, 0.025)
-SAISKUKO_OFFSET_FORMULA(GSM_450, 259, 0.2)
-SAISKUKO_OFFSET_FORMULA(GSM_480, 306, 0.2)
-SAISKUKO_OFFSET_FORMULA(GSM_850, 128, 0.2)
-SAISKUKO_OFFSET_FORMULA(GSM_900, 0, 0.2)
-SAISKUKO_OFFSET_FORMULA(GSM_900E_2, 1024, 0.2)
-SAISKUKO_OFFSET_FORMULA(GSM_DCS1800, 512, 0.2)
-SAISKUKO_OFFSET_FORMULA(LTEBand1Up, 18000, 0.1)
-SAISKUKO_OFFSET_FORMULA(LTEBand1Dn, 0, 0.1)
-SAISKUKO_OFFSET_FORMULA(LTEBand2Up, 18600, 0.1)
-SAISKUKO_OFFSET_FORMULA(LTEBand2Dn, 600, 0.1)
-SAISKUKO_OFFSET_FORMULA(LTEBand3Up, 19200, 0.1)
-SAISKUKO_OFFSET_FORMULA(LTEBand3Dn, 1200, 0.1)
-SAISKUKO_OFFSET_FORMULA(LTEBand4Up, 19950, 0.1)
-SAISKUKO_OFFSET_FORMULA(LTEBand4Dn, 1950, 0.1)
-SAISKUKO_OFFSET_FORMULA(LTEBand5Up, 20400, 0.1)
-SAISKUKO_OFFSET_FORMULA(LTEBand5Dn, 2400, 0.1)
-SAISKUKO_OFFSET_FORMULA(LTEBand7Up, 20750, 0.1)
-SAISKUKO_OFFSET_FORMULA(LTEBand7Dn, 2750, 0.1)
-SAISKUKO_OFFSET_FORMULA(LTEBand8Up, 21450, 0.1)
-SAISKUKO_OFFSET_FORMULA(LTEBand8Dn, 3450, 0.1)
-SAISKUKO_OFFSET_FORMULA(LTEBand9Up, 21800, 0.1)
-SAISKUKO_OFFSET_FORMULA(LTEBand9Dn, 3800, 0.1)
-SAISKUKO_OFFSET_FORMULA(LTEBand10Up, 22150, 0.1)
-SAISKUKO_OFFSET_FORMULA(LTEBand10Dn, 4150, 0.1)
-SAISKUKO_OFFSET_FORMULA(LTEBand11Up, 22750, 0.1)
-SAISKUKO_OFFSET_FORMULA(LTEBand11Dn, 4750, 0.1)
-SAISKUKO_OFFSET_FORMULA(LTEBand12Up, 23010, 0.1)
-SAISKUKO_OFFSET_FORMULA(LTEBand12Dn, 5010, 0.1)
-SAISKUKO_OFFSET_FORMULA(LTEBand13Up, 23180, 0.1)
-SAISKUKO_OFFSET_FORMULA(LTEBand13Dn, 5180, 0.1)
-SAISKUKO_OFFSET_FORMULA(LTEBand14Up, 23280, 0.1)
-SAISKUKO_OFFSET_FORMULA(LTEBand14Dn, 5280, 0.1)
-SAISKUKO_OFFSET_FORMULA(LTEBand17Up, 23730, 0.1)
-SAISKUKO_OFFSET_FORMULA(LTEBand17Dn, 5730, 0.1)
-SAISKUKO_OFFSET_FORMULA(LTEBand18Up, 23850, 0.1)
-SAISKUKO_OFFSET_FORMULA(LTEBand18Dn, 5850, 0.1)
-SAISKUKO_OFFSET_FORMULA(LTEBand19Up, 24000, 0.1)
-SAISKUKO_OFFSET_FORMULA(LTEBand19Dn, 6000, 0.1)
-SAISKUKO_OFFSET_FORMULA(LTEBand20Up, 24150, 0.1)
-SAISKUKO_OFFSET_FORMULA(LTEBand20Dn, 6150, 0.1)
-SAISKUKO_OFFSET_FORMULA(LTEBand21Up, 24450, 0.1)
-SAISKUKO_OFFSET_FORMULA(LTEBand21Dn, 6450, 0.1)
-SAISKUKO_OFFSET_FORMULA(LTEBand24Up, 25700, 0.1)
-SAISKUKO_OFFSET_FORMULA(LTEBand24Dn, 7700, 0.1)
-SAISKUKO_OFFSET_FORMULA(LTEBand22Up, 24600, 0.1)
-SAISKUKO_OFFSET_FORMULA(LTEBand22Dn, 6600, 0.1)
-SAISKUKO_OFFSET_FORMULA(LTEBand23Up, 25500, 0.1)
-SAISKUKO_OFFSET_FORMULA(LTEBand23Dn, 7500, 0.1)
-SAISKUKO_OFFSET_FORMULA(LTEBand25Up, 26040, 0.1)
-SAISKUKO_OFFSET_FORMULA(LTEBand25Dn, 8040, 0.1)
-SAISKUKO_OFFSET_FORMULA(LTEBand26Up, 26690, 0.1)
-SAISKUKO_OFFSET_FORMULA(LTEBand26Dn, 8690, 0.1)
-SAISKUKO_OFFSET_FORMULA(LTEBand27Up, 27040, 0.1)
-SAISKUKO_OFFSET_FORMULA(LTEBand27Dn, 9040, 0.1)
-SAISKUKO_OFFSET_FORMULA(LTEBand28Up, 27210, 0.1)
-SAISKUKO_OFFSET_FORMULA(LTEBand28Dn, 9210, 0.1)
-SAISKUKO_OFFSET_FORMULA(LTEBand29Up, 27660, 0.1)
-SAISKUKO_OFFSET_FORMULA(LTEBand29Dn, 9660, 0.1)
-SAISKUKO_OFFSET_FORMULA(LTEBand30Dn, 9770, 0.1)
-SAISKUKO_OFFSET_FORMULA(LTEBand31Up, 27760, 0.1)
-SAISKUKO_OFFSET_FORMULA(LTEBand31Dn, 9870, 0.1)
-SAISKUKO_OFFSET_FORMULA(LTEBand32Dn, 9920, 0.1)
-SAISKUKO_OFFSET_FORMULA(LTEBand33, 36000, 0.1)
-SAISKUKO_OFFSET_FORMULA(LTEBand34, 36200, 0.1)
-SAISKUKO_OFFSET_FORMULA(LTEBand35, 36350, 0.1)
-SAISKUKO_OFFSET_FORMULA(LTEBand36, 36950, 0.1)
-SAISKUKO_OFFSET_FORMULA(LTEBand37, 37550, 0.1)
-SAISKUKO_OFFSET_FORMULA(LTEBand38, 37750, 0.1)
-SAISKUKO_OFFSET_FORMULA(LTEBand39, 38250, 0.1)
-SAISKUKO_OFFSET_FORMULA(LTEBand40, 38650, 0.1)
-SAISKUKO_OFFSET_FORMULA(LTEBand41, 39650, 0.1)
-SAISKUKO_OFFSET_FORMULA(LTEBand42, 41590, 0.1)
-SAISKUKO_OFFSET_FORMULA(LTEBand43, 43590, 0.1)
-SAISKUKO_OFFSET_FORMULA(LTEBand44, 45590, 0.1)
-SAISKUKO_OFFSET_FORMULA(LTEBand45, 46590, 0.1)
-SAISKUKO_OFFSET_FORMULA(LTEBand46, 46790, 0.1)
-SAISKUKO_OFFSET_FORMULA(LTEBand47, 54540, 0.1)
-SAISKUKO_OFFSET_FORMULA(LTEBand48, 55240, 0.1)
-SAISKUKO_OFFSET_FORMULA(LTEBand65Up, 131072, 0.1)
-SAISKUKO_OFFSET_FORMULA(LTEBand65Dn, 65536, 0.1)
-SAISKUKO_OFFSET_FORMULA(LTEBand66Up, 131972, 0.1)
-SAISKUKO_OFFSET_FORMULA(LTEBand66Dn, 66436, 0.1)
-SAISKUKO_OFFSET_FORMULA(LTEBand67Dn, 67336, 0.1)
-SAISKUKO_OFFSET_FORMULA(LTEBand68Up, 132672, 0.1)
-SAISKUKO_OFFSET_FORMULA(LTEBand68Dn, 67536, 0.1)
-SAISKUKO_OFFSET_FORMULA(LTEBand69Dn, 67836, 0.1)
-SAISKUKO_OFFSET_FORMULA(LTEBand70Up, 132972, 0.1)
-SAISKUKO_OFFSET_FORMULA(LTEBand70Dn, 68336, 0.1)
-SAISKUKO_OFFSET_FORMULA(LTEBand71Up, 133122, 0.1)
-SAISKUKO_OFFSET_FORMULA(LTEBand71Dn, 68586, 0.1)
-SAISKUKO_OFFSET_FORMULA(LTEBand72Up, 133472, 0.1)
-SAISKUKO_OFFSET_FORMULA(LTEBand72Dn, 68936, 0.1)
-SAISKUKO_OFFSET_FORMULA(TDSCDMA_Common2, -1, 0.2)
-SAISKUKO_OFFSET_FORMULA(WIMAX_Common1, 0, 1.25)
-SAISKUKO_OFFSET_FORMULA(WIMAX_Common2, 0, 1.75)
-SAISKUKO_TIMES5_FORMULA(WIMAX_Common3)
-SAISKUKO_OFFSET_FORMULA(WIMAX_Common4, 0, 0.125)
-SAISKUKO_REF_FORMULA(5GNRBand, 0.005)
-SAISKUKO_REF_FORMULA(5GNRBand15k, 0.015)
-SAISKUKO_REF_FORMULA(5GNRBand60k, 0.06)
-SAISKUKO_OFFSET_FORMULA(CDMA_Band789, 0, 0.05)
-SAISKUKO_OFFSET_FORMULA(CDMA_Band10_1, 0, 0.025)
-SAISKUKO_OFFSET_FORMULA(TDSCDMA_Common, 0, 0.2)
-SAISKUKO_OFFSET_FORMULA(GSM_900E_1, 0, 0.2)
-SAISKUKO_OFFSET_FORMULA(GSM_900R_1, 0, 0.2)
-SAISKUKO_OFFSET_FORMULA(WCDMA_Common, 0, 0.2)
-SAISKUKO_OFFSET_FORMULA(LTEBand30Up, 27660, 0.1)
-SAISKUKO_OFFSET_FORMULA(GSM_900R_2, 1024, 0.2)
-SAISKUKO_OFFSET_FORMULA(GSM_PCS1900, 512, 0.2)
-SAISKUKO_OFFSET_FORMULA(LTEBand32Up, 27760, 0.1)
-SAISKUKO_OFFSET_FORMULA(LTEBand67Up, 131972, 0.1)
-SAISKUKO_OFFSET_FORMULA(LTEBand69Up, 132672, 0.1)
+SAISKUKO_FORMULAS(DEFINE_OFFSET, DEFINE_REF, DEFINE_TIMES5)
+
+namespace {
+
+#define TRAITS_OFFSET(stem, offset, step) {&ChBandStore::chstdGet##stem, FormulaKind::Offset, offset},
+#define TRAITS_REF(stem, step) {&ChBandStore::chstdGet##stem, FormulaKind::Reference, 0},
+#define TRAITS_TIMES5(stem) {&ChBandStore::chstdGet##stem, FormulaKind::Times5, 0},
+
+const FormulaTraits kTraits[] = {SAISKUKO_FORMULAS(TRAITS_OFFSET, TRAITS_REF, TRAITS_TIMES5)};
+
+} // namespace
+
+const FormulaTraits *formulaTraits(ChFreqFunc func)
+{
+    for (const FormulaTraits &traits : kTraits) {
+        if (traits.func == func)
+            return &traits;
+    }
+    return nullptr;
+}
