@@ -67,11 +67,13 @@ int ChBandStore::GetStopChannelNo_InSample(QString tech, QString band, int chann
     const int n = recordCount(b);
     // A band's uplink and downlink records stand side by side: when record i
     // is of the other direction, its neighbour i+1 answers for the pair.
-    // Beyond the array a record counts as never written (link -9).
-    auto linkAt = [&](int i) { return i < ChBand::MaxSubBands ? b.SubBands[i].Link : -9; };
+    // Beyond the array stands a record never written (link -9, all zero),
+    // exactly as after the last record of a shorter band.
+    static const stSubBand kUnwritten = {0, 0, 0.0, 0.0, 0.0, 0, -9, nullptr, false};
     for (int i = 0; i < n; ++i) {
-        const stSubBand &candidate = (linkAt(i) != link && linkAt(i + 1) == link)
-                                         ? b.SubBands[i + 1]
+        const stSubBand &next = i + 1 < ChBand::MaxSubBands ? b.SubBands[i + 1] : kUnwritten;
+        const stSubBand &candidate = (b.SubBands[i].Link != link && next.Link == link)
+                                         ? next
                                          : b.SubBands[i];
         if (holdsChannel(candidate, channel))
             return candidate.StopChannelNo;
