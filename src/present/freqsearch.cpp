@@ -1,5 +1,6 @@
 #include <saiskuko/chbandstore.h>
 
+#include "query/rastersearch.h"
 #include "store/bandaccess.h"
 #include "store/standardtext.h"
 
@@ -7,32 +8,6 @@
 
 #include <algorithm>
 #include <cmath>
-
-namespace {
-
-constexpr double kNoOffset = 2000000000.0;
-
-// The channel of a record nearest to freqMHz; among equally near channels the
-// lowest wins (strict comparison while walking upward).
-ChInfo nearestChannel(const stSubBand &r, double freqMHz)
-{
-    ChInfo hit;
-    hit.reserved = 0;
-    hit.linkDirection = -1;
-    hit.channelNo = -1;
-    hit.freqOffset = kNoOffset;
-    for (qint64 ch = r.StartChannelNo; ch <= r.StopChannelNo; ++ch) {
-        const double offset = recordFreq(r, static_cast<int>(ch)) - freqMHz;
-        if (std::abs(offset) < std::abs(hit.freqOffset)) {
-            hit.freqOffset = offset;
-            hit.channelNo = static_cast<int>(ch);
-            hit.linkDirection = r.Link;
-        }
-    }
-    return hit;
-}
-
-} // namespace
 
 QList<ChInfo> ChBandStore::GetChInfoFromFreq(double freqMHz) const
 {
@@ -47,9 +22,14 @@ QList<ChInfo> ChBandStore::GetChInfoFromFreq(double freqMHz) const
                 const stSubBand &r = band.SubBands[i];
                 if (!(r.StartFreq <= freqMHz && r.StopFreq >= freqMHz))
                     continue;
-                ChInfo hit = nearestChannel(r, freqMHz);
+                const NearestChannel nearest = nearestChannel(r, freqMHz);
+                ChInfo hit;
+                hit.reserved = 0;
                 hit.techName = technology.TechName;
                 hit.bandName = band.BandName;
+                hit.linkDirection = nearest.link;
+                hit.channelNo = nearest.channel;
+                hit.freqOffset = nearest.offset;
                 hits.append(hit);
             }
         }
@@ -75,14 +55,10 @@ QList<int> ChBandStore::GetAvailableChannels(QString channelStandard, QString di
     // Only the band's first record of the direction is offered.
     for (int i = 0; i < recordCount(b); ++i) {
         const stSubBand &r = b.SubBands[i];
-        if (r.Link != link)
-            continue;
-        for (qint64 ch = r.StartChannelNo; ch <= r.StopChannelNo; ++ch) {
-            const double freq = recordFreq(r, static_cast<int>(ch));
-            if (freq >= lowMHz && freq <= highMHz)
-                channels.append(static_cast<int>(ch));
+        if (r.Link == link) {
+            channels = channelsInWindow(r, lowMHz, highMHz);
+            break;
         }
-        break;
     }
     qDebug() << "AvailableChannels : " << channels.size();
     return channels;

@@ -1,62 +1,18 @@
 #include <saiskuko/chbandstore.h>
 
+#include "query/rastersearch.h"
 #include "store/bandaccess.h"
 #include "store/standardtext.h"
 #include "store/techslots.h"
 #include "store/wrapping.h"
 
-#include <cmath>
 #include <iostream>
-#include <limits>
-
-namespace {
-
-// Up to ten channels whose frequency equals the searched one; later matches
-// can never be returned, so they are not kept.
-struct Candidates
-{
-    static constexpr int Capacity = 10;
-    int channels[Capacity] = {-1, -1, -1, -1, -1, -1, -1, -1, -1, -1};
-    int count = 0;
-
-    void add(int channel)
-    {
-        if (count < Capacity)
-            channels[count++] = channel;
-    }
-    bool contains(int channel) const
-    {
-        for (int i = 0; i < count; ++i) {
-            if (channels[i] == channel)
-                return true;
-        }
-        return false;
-    }
-};
-
-// Only exact raster frequencies convert: the tolerance is the double epsilon
-// taken as an absolute number of MHz.
-bool isExactMatch(double channelFreq, double freqMHz)
-{
-    return std::abs(channelFreq - freqMHz) < std::numeric_limits<double>::epsilon();
-}
-
-void collectExactMatches(const stSubBand &r, double freqMHz, Candidates *found)
-{
-    // 64-bit counter: a stop channel of INT_MAX must not overflow the loop.
-    for (qint64 ch = r.StartChannelNo; ch <= r.StopChannelNo; ++ch) {
-        if (isExactMatch(recordFreq(r, static_cast<int>(ch)), freqMHz))
-            found->add(static_cast<int>(ch));
-    }
-}
-
-} // namespace
 
 int ChBandStore::GetChNumFromFreq(QString tech, QString band, int link, double freqMHz,
                                   int preferred) const
 {
     const ChBand &b = BandOf(tech, band);
-    Candidates found;
+    ExactMatches found;
     for (int i = 0; i < recordCount(b); ++i) {
         const stSubBand &r = b.SubBands[i];
         if ((r.Link == link || r.UplinkOnly) && r.StartFreq <= freqMHz && freqMHz <= r.StopFreq)
