@@ -15,7 +15,8 @@ struct FormulaTraits
 {
     ChFreqFunc func;
     FormulaKind kind;
-    int offset; // for FormulaKind::Offset
+    int offset;  // for FormulaKind::Offset
+    double step; // MHz per channel
 };
 
 // The traits of one of the library's own formulas; null for any other

@@ -17,31 +17,51 @@ bool fitsInt32(qint64 low, qint64 high)
     return low >= kIntMin && high <= kIntMax;
 }
 
-// True when the record's frequencies are non-decreasing from its first to
-// its last channel: a known formula (positive step, product rounded before
-// a rounded addition), a finite base, and an integer part that does not wrap
-// anywhere in the range.
-bool growsMonotonically(const stSubBand &r)
+// The formula's traits when the record's frequencies are non-decreasing from
+// its first to its last channel: a known formula (positive step, product
+// rounded before a rounded addition), a finite base, and an integer part that
+// does not wrap anywhere in the range. Null otherwise.
+const FormulaTraits *monotonicTraits(const stSubBand &r)
 {
     const FormulaTraits *traits = formulaTraits(r.FreqFunc);
     if (!traits || !std::isfinite(r.BaseFreq))
-        return false;
+        return nullptr;
     const qint64 start = r.StartChannelNo;
     const qint64 stop = r.StopChannelNo;
+    bool fits = false;
     switch (traits->kind) {
     case FormulaKind::Offset:
-        return fitsInt32(start - traits->offset, stop - traits->offset);
+        fits = fitsInt32(start - traits->offset, stop - traits->offset);
+        break;
     case FormulaKind::Reference:
-        return fitsInt32(0, stop - start);
+        fits = fitsInt32(0, stop - start);
+        break;
     case FormulaKind::Times5:
-        return fitsInt32(5 * start, 5 * stop);
+        fits = fitsInt32(5 * start, 5 * stop);
+        break;
     }
-    return false;
+    return fits ? traits : nullptr;
 }
 
 double freqAt(const stSubBand &r, qint64 channel)
 {
     return recordFreq(r, static_cast<int>(channel));
+}
+
+// Where the formula puts freqMHz, by inverting it in floating point, clamped
+// to the record's channels. Only a starting point: every answer is settled
+// by the formula itself.
+qint64 estimateChannel(const FormulaTraits &traits, const stSubBand &r, double freqMHz)
+{
+    const double origin = traits.kind == FormulaKind::Offset      ? traits.offset
+                          : traits.kind == FormulaKind::Reference ? r.StartChannelNo
+                                                                  : 0.0;
+    const double estimate = origin + (freqMHz - r.BaseFreq) / traits.step;
+    if (!(estimate >= r.StartChannelNo)) // also NaN
+        return r.StartChannelNo;
+    if (!(estimate <= r.StopChannelNo))
+        return r.StopChannelNo;
+    return static_cast<qint64>(estimate);
 }
 
 // The first channel in [low, high] where a predicate that is false, then true
@@ -60,6 +80,39 @@ qint64 firstTrue(qint64 low, qint64 high, Predicate holds)
     return low;
 }
 
+// The same, starting from a guess: gallops away from it to bracket the
+// answer, then bisects the bracket. A good guess costs a few evaluations, a
+// bad one only a few more than plain bisection.
+template <typename Predicate>
+qint64 firstTrueNear(qint64 low, qint64 high, qint64 guess, Predicate holds)
+{
+    if (low > high)
+        return low;
+    guess = qBound(low, guess, high);
+    qint64 from = low;
+    qint64 to = high + 1; // the answer lies in [from, to]
+    if (holds(guess)) {
+        to = guess;
+        for (qint64 step = 1; to - step >= from; step *= 2) {
+            if (!holds(to - step)) {
+                from = to - step + 1;
+                break;
+            }
+            to -= step;
+        }
+    } else {
+        from = guess + 1;
+        for (qint64 step = 1; from - 1 + step <= high; step *= 2) {
+            if (holds(from - 1 + step)) {
+                to = from - 1 + step;
+                break;
+            }
+            from += step;
+        }
+    }
+    return firstTrue(from, to - 1, holds);
+}
+
 } // namespace
 
 bool ExactMatches::contains(int channel) const
@@ -75,13 +128,13 @@ void collectExactMatches(const stSubBand &r, double freqMHz, ExactMatches *found
 {
     const qint64 stop = r.StopChannelNo;
     qint64 channel = r.StartChannelNo;
-    const bool fast = growsMonotonically(r) && std::isfinite(freqMHz);
+    const FormulaTraits *traits = monotonicTraits(r);
+    const bool fast = traits && std::isfinite(freqMHz);
     if (fast) {
         // Differences grow with the channel: the matches form one run that
         // starts at the first difference above -epsilon.
-        channel = firstTrue(channel, stop, [&](qint64 ch) {
-            return freqAt(r, ch) - freqMHz > -kTolerance;
-        });
+        channel = firstTrueNear(channel, stop, estimateChannel(*traits, r, freqMHz),
+                                [&](qint64 ch) { return freqAt(r, ch) - freqMHz > -kTolerance; });
     }
     for (; channel <= stop && found->count < ExactMatches::Capacity; ++channel) {
         const double difference = freqAt(r, channel) - freqMHz;
@@ -104,7 +157,8 @@ NearestChannel nearestChannel(const stSubBand &r, double freqMHz)
             best.link = r.Link;
         }
     };
-    if (!growsMonotonically(r) || !std::isfinite(freqMHz)) {
+    const FormulaTraits *traits = monotonicTraits(r);
+    if (!traits || !std::isfinite(freqMHz)) {
         for (qint64 ch = start; ch <= stop; ++ch)
             consider(ch, freqAt(r, ch) - freqMHz);
         return best;
@@ -116,10 +170,12 @@ NearestChannel nearestChannel(const stSubBand &r, double freqMHz)
     // channel or the first channel of the plateau just below it; on a tie the
     // lower one wins, as in a walk that only takes strictly better channels.
     auto offsetAt = [&](qint64 ch) { return freqAt(r, ch) - freqMHz; };
-    const qint64 above = firstTrue(start, stop, [&](qint64 ch) { return offsetAt(ch) >= 0.0; });
+    const qint64 above = firstTrueNear(start, stop, estimateChannel(*traits, r, freqMHz),
+                                       [&](qint64 ch) { return offsetAt(ch) >= 0.0; });
     if (above > start) {
         const double below = offsetAt(above - 1);
-        consider(firstTrue(start, above - 1, [&](qint64 ch) { return offsetAt(ch) >= below; }),
+        consider(firstTrueNear(start, above - 1, above - 1,
+                               [&](qint64 ch) { return offsetAt(ch) >= below; }),
                  below);
     }
     if (above <= stop)
@@ -132,7 +188,8 @@ QList<int> channelsInWindow(const stSubBand &r, double lowMHz, double highMHz)
     QList<int> channels;
     const qint64 start = r.StartChannelNo;
     const qint64 stop = r.StopChannelNo;
-    if (!growsMonotonically(r)) {
+    const FormulaTraits *traits = monotonicTraits(r);
+    if (!traits) {
         for (qint64 ch = start; ch <= stop; ++ch) {
             const double freq = freqAt(r, ch);
             if (freq >= lowMHz && freq <= highMHz)
@@ -140,8 +197,10 @@ QList<int> channelsInWindow(const stSubBand &r, double lowMHz, double highMHz)
         }
         return channels;
     }
-    const qint64 first = firstTrue(start, stop, [&](qint64 ch) { return freqAt(r, ch) >= lowMHz; });
-    const qint64 end = firstTrue(first, stop, [&](qint64 ch) { return !(freqAt(r, ch) <= highMHz); });
+    const qint64 first = firstTrueNear(start, stop, estimateChannel(*traits, r, lowMHz),
+                                       [&](qint64 ch) { return freqAt(r, ch) >= lowMHz; });
+    const qint64 end = firstTrueNear(first, stop, estimateChannel(*traits, r, highMHz),
+                                     [&](qint64 ch) { return !(freqAt(r, ch) <= highMHz); });
     channels.reserve(static_cast<int>(qMin<qint64>(end - first, 1 << 20)));
     for (qint64 ch = first; ch < end; ++ch)
         channels.append(static_cast<int>(ch));
