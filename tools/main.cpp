@@ -68,6 +68,28 @@ void writeStderr(const QString &text)
     std::fflush(stderr);
 }
 
+// A negative channel or frequency ("-5") looks like an option to the parser.
+// Such arguments are marked before parsing and unmarked where they are read.
+const QChar kNumberMark(0xE000);
+
+QStringList protectNegativeNumbers(QStringList arguments)
+{
+    for (int i = 1; i < arguments.size() && arguments[i] != QLatin1String("--"); ++i) {
+        const QString &argument = arguments[i];
+        if (argument.size() > 1 && argument[0] == QLatin1Char('-')
+            && (argument[1].isDigit() || argument[1] == QLatin1Char('.')))
+            arguments[i].prepend(kNumberMark);
+    }
+    return arguments;
+}
+
+QString unmarked(QString argument)
+{
+    if (argument.startsWith(kNumberMark))
+        argument.remove(0, 1);
+    return argument;
+}
+
 // --quiet must be known before the command line is fully parsed, so that a
 // line that fails to parse does not let the banner through.
 bool quietRequested(const QStringList &arguments)
@@ -141,7 +163,7 @@ int main(int argc, char *argv[])
     QCoreApplication app(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("saiskuko"));
     QCoreApplication::setApplicationVersion(QStringLiteral(SAISKUKO_VERSION_STR));
-    const QStringList arguments = QCoreApplication::arguments();
+    const QStringList arguments = protectNegativeNumbers(QCoreApplication::arguments());
 
     const bool quiet = quietRequested(arguments);
     setLibraryDiagnosticsShown(!quiet);
@@ -179,7 +201,9 @@ int main(int argc, char *argv[])
         return ExitOk;
     }
 
-    QStringList positional = parser.positionalArguments();
+    QStringList positional;
+    for (const QString &argument : parser.positionalArguments())
+        positional << unmarked(argument);
     if (positional.isEmpty())
         return fail(QStringLiteral("no command given (see: saiskuko --help)"));
     const QString name = positional.takeFirst();
@@ -227,15 +251,15 @@ int main(int argc, char *argv[])
         bool ok = true;
         if (parser.isSet(preferredOption)) {
             options.hasPreferred = true;
-            options.preferred = parser.value(preferredOption).trimmed().toInt(&ok, 10);
+            options.preferred = unmarked(parser.value(preferredOption)).trimmed().toInt(&ok, 10);
             if (!ok)
-                throw BadInput(QLatin1String("--preferred \"") + parser.value(preferredOption)
+                throw BadInput(QLatin1String("--preferred \"") + unmarked(parser.value(preferredOption))
                                + QLatin1String("\" is not a channel number"));
         }
         if (parser.isSet(linkOption)) {
-            const QString value = parser.value(linkOption).trimmed();
+            const QString value = unmarked(parser.value(linkOption)).trimmed();
             if (value != QLatin1String("0") && value != QLatin1String("1"))
-                throw BadInput(QLatin1String("--link \"") + parser.value(linkOption)
+                throw BadInput(QLatin1String("--link \"") + unmarked(parser.value(linkOption))
                                + QLatin1String("\" must be 0 (downlink) or 1 (uplink)"));
             options.link = value.toInt();
         }
