@@ -64,16 +64,12 @@ QString ChBandStore::GetChNumRefString(QString tech, QString band, int linkSel) 
 
 QString ChBandStore::GetChNumRefString_List(QString tech, QString band, int linkSel) const
 {
-    if (isGlobalBandName(band))
-        return QStringLiteral(" ");
+    // A global band and a paired technology's single range read as above.
     const int t = LookupTechSlot(tech);
-    const ChBand &b = Technologies[t].Bands[LookupBandSlot(t, band)];
-    const QList<const stSubBand *> shown = shownRecords(b, t, linkSel);
-    if (isPairedTechnology(t))
-        return QLatin1String("(") + channelRange("%d - %d)", *shown.first());
-
+    if (isGlobalBandName(band) || isPairedTechnology(t))
+        return GetChNumRefString(tech, band, linkSel);
     QStringList pieces;
-    for (const stSubBand *r : shown)
+    for (const stSubBand *r : shownRecords(Technologies[t].Bands[LookupBandSlot(t, band)], t, linkSel))
         pieces.append(channelRange("(%d - %d)", *r));
     return pieces.join(QLatin1Char('\n'));
 }
