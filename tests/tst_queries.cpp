@@ -1,258 +1,444 @@
-#include "querytest.h"
+#include "testsupport.h"
 
 #include <climits>
+#include <cmath>
+#include <limits>
+
+namespace {
+
+const double kInf = std::numeric_limits<double>::infinity();
+const double kNaN = std::numeric_limits<double>::quiet_NaN();
+
+// One query's arguments; a row leaves those it does not need at 0. `own`
+// picks the private store of initTestCase; `call` asks the query with the
+// names as QStrings and gives the answers as one string.
+struct Args;
+using Call = QString (*)(const ChBandStore &, const Args &, const QString &tech, const QString &band);
+struct Args
+{
+    bool own = false;
+    const char *tech = nullptr, *band = nullptr;
+    int link = 0, channel = 0;
+    double mhz = 0.0;
+    int preferred = 0;
+    Call call = nullptr;
+};
+
+Call g_call; // the query of the rows being added
+
+void columns(Call call)
+{
+    g_call = call;
+    QTest::addColumn<Args>("a");
+    QTest::addColumn<QString>("expected");
+    QTest::addColumn<QStringList>("log");
+}
+
+void row(const char *name, Args a, const char *expected, const QStringList &log = {})
+{
+    a.call = g_call;
+    QTest::newRow(name) << a << str(expected) << log;
+}
+
+QStringList warned(const QString &text, int times = 1)
+{
+    QStringList out;
+    for (int i = 0; i < times && !text.isEmpty(); ++i)
+        out << QLatin1String("W ") + text;
+    return out;
+}
+
+// The line that a failed conversion writes to standard output.
+QStringList printed(const char *value, int times = 1)
+{
+    return {QLatin1String("out: ")
+            + QStringLiteral("GetChNumFromFreq Not supported value : %1\n").arg(str(value)).repeated(times)};
+}
+
+// Maps every channel of a record onto its base frequency.
+double flat(int, double base, int)
+{
+    return base;
+}
+
+const int kInvalidCodes[] = {11, 109, 238, 317, 619, 736, 800, 900, -1, -100, -150, INT_MIN, INT_MAX};
+
+} // namespace
+
+Q_DECLARE_METATYPE(Args)
 
 class TestQueries : public QObject
 {
     Q_OBJECT
 
-private slots:
-    void initTestCase();
-    void limits_data();
-    void limits();
-    void recordZero_data();
-    void recordZero();
-    void defaultIntBW_data();
-    void defaultIntBW();
-    void channelToFreq_data();
-    void channelToFreq();
-    void stopInSample_data();
-    void stopInSample();
-
-private:
-    const ChBandStore &global = *ChStd::GetChStdPointer();
+    const ChBandStore &global = G_CHSTD;
     std::unique_ptr<ChBandStore> own;
-    const ChBandStore &pick(bool ownStore) const { return ownStore ? *own : global; }
+
+    // The row's query on its store: its answers and everything it logged.
+    void check()
+    {
+        QFETCH(Args, a);
+        LogCapture log;
+        QTEST(a.call(a.own ? *own : global, a, str(a.tech), str(a.band)), "expected");
+        QTEST(log.take(), "log");
+    }
+
+private slots:
+    // A private store with what the real plan lacks. GSM: "Hundred" fills all
+    // 100 records (pairs of channels 1000+10i to 1005+10i), "Negative" has
+    // negative channels, "Flat" maps channel 900 and then 0 to 19 onto 500 MHz
+    // (21 matches for a list of 10), "Near" sits next to the tolerance, "Top"
+    // ends at INT_MAX, "DownFirst" has its pair reversed, "Empty" (115) has no
+    // record. WIMAX ProfR1 gains a downlink record; TD-SCDMA an empty band name
+    // (409) whose pair differs in channels; CDMA names of a negative slot and
+    // of a slot past a gap.
+    void initTestCase()
+    {
+        own = makeStore();
+        const QString gsm = str("GSM");
+        const auto f900 = &ChBandStore::chstdGetGSM_900;
+        for (int i = 0; i < ChBand::MaxSubBands; ++i)
+            own->SetBandInfo(gsm, str("Hundred"), 1000 + 10 * i, 1005 + 10 * i, 100.0 + i, 101.0 + i, 100.0 + i, 1,
+                             i % 2 == 0 ? 1 : 0, f900, false);
+        own->SetBandInfo(gsm, str("Negative"), -10, -5, 50.0, 51.0, 50.0, 1, 1, f900, false);
+        own->SetBandInfo(gsm, str("Negative"), -3, 4, 60.0, 61.0, 60.0, 1, 0, f900, false);
+        own->SetBandInfo(gsm, str("Flat"), 900, 900, 400.0, 600.0, 500.0, 1, 1, &flat, false);
+        own->SetBandInfo(gsm, str("Flat"), 0, 19, 400.0, 600.0, 500.0, 1, 1, &flat, false);
+        own->SetBandInfo(gsm, str("Near"), 1, 1, 0.5, 2.0, 0.75, 1, 1, &flat, false);
+        own->SetBandInfo(gsm, str("Near"), 2, 2, 0.5, 2.0, 1.5, 1, 1, &flat, false);
+        own->SetBandInfo(gsm, str("Top"), INT_MAX - 2, INT_MAX, 600.0, 800.0, 700.0, 1, 1, &flat, false);
+        own->SetBandInfo(gsm, str("DownFirst"), 100, 200, 900.0, 920.0, 900.0, 1, 0, f900, false);
+        own->SetBandInfo(gsm, str("DownFirst"), 300, 400, 950.0, 970.0, 950.0, 1, 1, f900, false);
+        own->Technologies[1].BandIndexMap.insert(str("Empty"), own->Technologies[1].NumBand++);
+        own->SetBandInfo(str("WIMAX"), str("ProfR1 (1.25 2150)"), 100, 107, 2250.625, 2259.375, 2250.625, 3, 0,
+                         &ChBandStore::chstdGetWIMAX_Common1, false);
+        own->SetBandInfo(str("TD-SCDMA"), QString(), 1, 2, 10.0, 20.0, 10.0, 1, 1, f900, false);
+        own->SetBandInfo(str("TD-SCDMA"), QString(), 5, 6, 10.0, 20.0, 10.0, 1, 0, f900, false);
+        own->Technologies[0].BandIndexMap.insert(str("Neg"), -5);
+        own->Technologies[0].BandIndexMap.insert(str("Gap"), 12); // slot 11 has no name
+        QCOMPARE(own->GetEnumulator(str("GSM"), str("Empty")), 115);
+    }
+
+    // The strict lookup and the check of the text form fail alike, with one
+    // warning naming the first part that is wrong.
+    void names_data()
+    {
+        // The strict lookup of the names (when the text has two parts) and the
+        // check of the text form.
+        columns([](auto &s, auto &, auto &t, auto &) {
+            const QStringList parts = t.split(str(" - "));
+            return nums({parts.size() > 1 ? s.GetEnumulator(parts[0], parts[1]) : -1, s.IsChannelStandard(t)});
+        });
+        const auto names = [](const char *text, int code, const char *warning = "") {
+            const int calls = str(text).contains(str(" - ")) ? 2 : 1;
+            row(*text ? text : "empty", {false, text}, qPrintable(nums({code, code >= 0})), warned(str(warning), calls));
+        };
+        names("CDMA - Band 0 (800)", 0);
+        names("LTE-FDD - Band 20 (800)", 217);
+        names("GSM - GSM 850 - x", 102); // parts after the second are ignored
+        names("LTE - x", -1, "Tech Name is invalid.( \"LTE\" )"); // the band is not looked at
+        names("lte-fdd - Band 1 (2100)", -1, "Tech Name is invalid.( \"lte-fdd\" )");
+        names("LTE-FDD - Band 1 (2100-General)", -1, "Band Name is invalid.( \"Band 1 (2100-General)\" )");
+        names("GSM - gsm 850", -1, "Band Name is invalid.( \"gsm 850\" )");
+        names("GSM - GSM 850 ", -1, "Band Name is invalid.( \"GSM 850 \" )");
+        names("GSM -  - GSM 850", -1, "Band Name is invalid.( \"\" )");
+        names("say \"GSM\\ - GSM 850", -1, "Tech Name is invalid.( \"say \\\"GSM\\\\\" )");
+        names("GSM - Bänd\t€", -1, "Band Name is invalid.( \"Bänd\\t€\" )");
+        names("LTE-TDD-Band 40 (2300)", -1, "Channel Standard is invalid.( \"LTE-TDD-Band 40 (2300)\" )");
+        names("GSM 850", -1, "Channel Standard is invalid.( \"GSM 850\" )");
+        names("", -1, "Channel Standard is invalid.( \"\" )");
+    }
+    void names() { check(); }
+
+    // Names and numbers agree for every band of the plan, in both directions.
+    void everyBandRoundTrips()
+    {
+        const int bandCounts[] = {11, 9, 38, 17, 9, 33, 19, 36};
+        LogCapture log;
+        for (auto it = global.TechIndexMap.constBegin(); it != global.TechIndexMap.constEnd(); ++it) {
+            const QList<QString> list = global.GetBandList(it.key());
+            QCOMPARE(list.size(), bandCounts[it.value()]);
+            QCOMPARE(global.GetNumBand(it.key()), bandCounts[it.value()]);
+            for (int slot = 0; slot < list.size(); ++slot) {
+                const int code = 100 * it.value() + slot;
+                QCOMPARE(global.GetEnumulator(it.key(), list[slot]), code);
+                QCOMPARE(global.GetEnumulator(code), it.key() + str(" - ") + list[slot]);
+                QCOMPARE(global.GetBandName(code), list[slot]);
+                QCOMPARE(nums({global.GetTech(code), global.GetBand(code), global.IsChannelStandard(code)}),
+                         nums({it.value(), slot, true}));
+            }
+        }
+        for (const char *unknown : {"LTE", "gsm", ""}) { // quietly answer for CDMA
+            QCOMPARE(global.GetNumBand(str(unknown)), 11);
+            QCOMPARE(global.GetBandList(str(unknown)), global.GetBandList(str("CDMA")));
+        }
+        QCOMPARE(log.take(), QStringList());
+    }
+
+    // The reverse conversion never warns about a number that is no
+    // enumerator; the others warn once per call.
+    void invalidCodes()
+    {
+        for (const int code : kInvalidCodes) {
+            LogCapture log;
+            QCOMPARE(global.GetEnumulator(code), QString());
+            QCOMPARE(log.take(), QStringList());
+            QCOMPARE(nums({global.GetTech(code), global.GetBand(code), global.IsChannelStandard(code)}), str("-1 -1 0"));
+            QCOMPARE(global.GetBandName(code), str("None"));
+            QCOMPARE(log.take(), warned(QStringLiteral("Channel Standard Enum is invalid.( %1 )").arg(code), 4));
+        }
+    }
+
+    // Hand-edited maps reach the truncating split of negative numbers, negative
+    // slots, empty names and a slot that no name maps to.
+    void handEditedMaps()
+    {
+        LogCapture log;
+        // -5 / 100 truncates to technology 0 and leaves band -5; a flooring split
+        // would give technology -1 and no text at all.
+        QCOMPARE(own->GetEnumulator(-5), str("CDMA - Neg"));
+        QCOMPARE(own->GetEnumulator(-105), QString());
+        QCOMPARE(own->GetEnumulator(12), str("CDMA - Gap"));
+        // An empty band name is a key for the strict lookup but no text form.
+        QCOMPARE(own->GetEnumulator(str("TD-SCDMA"), QString()), 409);
+        QVERIFY(own->IsChannelStandard(str("TD-SCDMA - ")));
+        QCOMPARE(own->GetEnumulator(409), QString());
+        QCOMPARE(own->GetBandList(str("CDMA")), global.GetBandList(str("CDMA")) << QString() << str("Gap"));
+        QCOMPARE(log.take(), QStringList());
+        QCOMPARE(own->GetEnumulator(str("CDMA"), str("Neg")), -1);
+        QVERIFY(!own->IsChannelStandard(-5));
+        QVERIFY(!own->IsChannelStandard(409));
+        QCOMPARE(log.take(), warned(str("Band Name is invalid.( \"Neg\" )"), 2)
+                                 << str("W Channel Standard Enum is invalid.( 409 )"));
+    }
+
+    // The lists name exactly the time-division bands: all of LTE-TDD and
+    // TD-SCDMA, the single-record WiMAX profiles, and elsewhere only the global
+    // bands (by their name alone).
+    void classifiers()
+    {
+        LogCapture log;
+        for (int t = 0; t < ChBandStore::MaxTechnologies; ++t) {
+            const ChTechnology &tech = global.Technologies[t];
+            for (int b = 0; b < tech.NumBand; ++b) {
+                const QString &name = tech.Bands[b].BandName;
+                QCOMPARE(nums({global.CheckChannelStandardIsLTETDD(name), global.CheckChannelStandardIsTDS(name),
+                               global.CheckChannelStandardIsWiMax(name)}),
+                         nums({t == 3 || tech.Bands[b].IsGlobal, t == 4, t == 6 && tech.Bands[b].NumSubBand == 1}));
+            }
+        }
+        for (const char *other : {"LTE-TDD - Band 40 (2300)", "FBN 9", "band global", ""})
+            QVERIFY(!global.CheckChannelStandardIsLTETDD(str(other)) && !global.CheckChannelStandardIsTDS(str(other))
+                    && !global.CheckChannelStandardIsWiMax(str(other)));
+        QCOMPARE(log.take(), QStringList());
+    }
+
+    void defaultIntBW()
+    {
+        QStringList hertz;
+        for (const char *name : {"CDMA", "GSM", "WCDMA", "LTE-FDD", "LTE-TDD", "TD-SCDMA", "WIMAX", "5G NR", "gsm", ""})
+            hertz << Num(global.GetDefaultIntBW(str(name))).text;
+        QCOMPARE(hertz.join(QLatin1Char(' ')),
+                 str("1230000 300000 3840000 10000000 10000000 1280000 10000000 1000000 1000000 1000000"));
+    }
+
+    void limits_data()
+    {
+        // MHz low and high, channels first and last, records, record 0's MHz and flag.
+        columns([](auto &s, auto &a, auto &t, auto &b) {
+            return nums({s.GetStartFreq(t, b, a.link), s.GetStopFreq(t, b, a.link), s.GetStartChannelNo(t, b, a.link),
+                         s.GetStopChannelNo(t, b, a.link), s.GetNumSubBand(t, b), s.GetStartFreq(t, b),
+                         s.IsUplinkOnly(t, b)});
+        });
+        row("GSM 850 up", {0, "GSM", "GSM 850", 1}, "824 849 128 251 2 824 0");
+        row("GSM 850 down", {0, "GSM", "GSM 850", 0}, "869 894 128 251 2 824 0");
+        // Channel 0 is a real answer: no fallback to the other link.
+        row("E-GSM up", {0, "GSM", "E-GSM 900", 1}, "880 915 0 1023 4 880 0");
+        row("global down", {0, "LTE-FDD", "Band Global", 0}, "461 3590 0 68985 72 1920 0");
+        // Placeholders count for the frequency edges but never for channels:
+        // the other link answers instead.
+        row("global up", {0, "LTE-FDD", "Band Global", 1}, "1 3490 18000 133521 72 1920 0");
+        row("placeholder up", {0, "LTE-FDD", "Band 29 (900)", 1}, "1 1 9660 9769 2 1 0");
+        row("placeholder down", {0, "5G NR", "Band n80 (UL 1800)", 0}, "1 1 342000 357000 2 1710 0");
+        row("n41: flag on record 1", {0, "5G NR", "Band n41 (TD 2500)", 1}, "1 1 499200 537999 2 1 0");
+        row("TDD", {0, "LTE-TDD", "Band 33 (1900)", 1}, "1900 1920 36000 36199 2 1900 1");
+        row("single record, other link", {0, "WIMAX", "ProfR29 (8.75 2304)", 0}, "0 0 0 730 1 2304.375 1");
+        row("link 2 falls back to 0", {0, "LTE-FDD", "Band 3 (1800)", 2}, "0 0 1200 1949 2 1710 0");
+        row("empty band name", {0, "GSM", "", 1}, "450.4 457.6 259 293 2 450.4 0");
+        row("unknown names", {0, "Foo", "Bar", 1}, "824 849 1 1023 4 824 0");
+        // Negative stop channels never win; the other link's maximum does.
+        row("negative up", {1, "GSM", "Negative", 1}, "50 51 -10 4 2 50 0");
+        row("negative link 2", {1, "GSM", "Negative", 2}, "0 0 -3 4 2 50 0");
+        row("no records", {1, "GSM", "Empty", 1}, "0 0 0 0 0 0 0");
+    }
+    void limits() { check(); }
+
+    void channelToFreq_data()
+    {
+        columns([](auto &s, auto &a, auto &t, auto &b) {
+            return nums({s.GetFreq(t, b, a.link, a.channel), s.GetFreqNoLimit(t, b, a.link, a.channel),
+                         s.IsExistChannelNo(t, b, a.link, a.channel)});
+        });
+        row("first up", {0, "GSM", "GSM 850", 1, 128}, "824.2 824.2 1");
+        row("last down", {0, "GSM", "GSM 850", 0, 251}, "893.8000000000001 893.8000000000001 1");
+        row("above", {0, "GSM", "GSM 850", 1, 252}, "-1 849 0");
+        row("INT_MAX", {0, "GSM", "GSM 850", 0, INT_MAX}, "-1 429497573 0");
+        row("FDD link 2", {0, "GSM", "GSM 850", 2, 128}, "-1 -1 0");
+        // The first record of the link decides for GetFreqNoLimit.
+        row("E-GSM second range", {0, "GSM", "E-GSM 900", 1, 1000}, "885.2 1090 1");
+        row("down channel, up link", {0, "LTE-FDD", "Band 1 (2100)", 1, 300}, "-1 150 0");
+        // "Band Global" is time-division by its name: every record is eligible
+        // and the first one holding the channel wins, even before a placeholder
+        // of the asked link.
+        row("global, link 2", {0, "LTE-FDD", "Band Global", 2, 300}, "2140 -1 0");
+        row("global, placeholder later", {0, "LTE-FDD", "Band Global", 1, 1}, "2110.1 120.09999999999991 1");
+        row("NR global, up link", {0, "5G NR", "Band Global", 1, 422000}, "2110 2110 0");
+        row("placeholder", {0, "LTE-FDD", "Band 29 (900)", 1, 1}, "-2764.9 -2764.9 1");
+        row("past placeholder", {0, "LTE-FDD", "Band 29 (900)", 1, 9660}, "-1 -1799 0");
+        // Uplink-only records serve every link, except for IsExistChannelNo.
+        row("uplink-only record", {0, "5G NR", "Band n41 (TD 2500)", -1, 499400}, "2497 2497 0");
+        row("link before flag", {0, "5G NR", "Band n41 (TD 2500)", 1, 499400}, "2497 2497.995 0");
+        row("TDD link 2", {0, "LTE-TDD", "Band 40 (2300)", 2, 38650}, "2300 2300 0");
+        row("TDS link 2", {0, "TD-SCDMA", "FBN 3", 2, 0}, "1972 1972 0");
+        row("paired WiMAX link 2", {0, "WIMAX", "ProfR6 (3.5 2598)", 2, 0}, "-1 -1 0");
+        row("single WiMAX down", {0, "WIMAX", "ProfR1 (1.25 2150)", 0, 3}, "2154.375 2154.375 0");
+        row("no records", {1, "GSM", "Empty", -9, 0}, "-1 -1 0");
+    }
+    void channelToFreq() { check(); }
+
+    void stopInSample_data()
+    {
+        // Note the argument order: channel before link.
+        columns([](auto &s, auto &a, auto &t, auto &b) { return QString::number(s.GetStopChannelNo_InSample(t, b, a.channel, a.link)); });
+        row("in no record: record 0", {0, "GSM", "GSM 850", 1, 300}, "251");
+        row("second pair, down", {0, "CDMA", "Band 0 (800)", 0, 1000}, "1023");
+        row("channel and link swapped", {0, "CDMA", "Band 0 (800)", 1000, 1}, "799");
+        row("other link's record", {0, "LTE-FDD", "Band 3 (1800)", 1, 1300}, "1949");
+        // A downlink record is replaced by the uplink record after it, except
+        // the last one, whose neighbour was never written.
+        row("shadowed", {0, "LTE-FDD", "Band Global", 1, 300}, "18599");
+        row("not shadowed", {0, "LTE-FDD", "Band Global", 0, 300}, "599");
+        row("last record", {0, "LTE-FDD", "Band Global", 1, 68950}, "68985");
+        // The unwritten neighbour (link -9, channels 0 to 0) is a candidate too.
+        row("unwritten neighbour", {0, "GSM", "GSM 850", -9, 0}, "0");
+        row("100: shadowed", {1, "GSM", "Hundred", 1, 1012}, "1005");
+        row("100: last record", {1, "GSM", "Hundred", 1, 1992}, "1995");
+        row("100: beyond the array", {1, "GSM", "Hundred", -9, 0}, "0");
+        row("no records", {1, "GSM", "Empty", -9, 0}, "0");
+    }
+    void stopInSample() { check(); }
+
+    // A miss writes its one line to standard output, never to the Qt log.
+    void channelOfFreq_data()
+    {
+        columns([](auto &s, auto &a, auto &t, auto &b) { return QString::number(s.GetChNumFromFreq(t, b, a.link, a.mhz, a.preferred)); });
+        // The unused entries of the list (-1) are no candidates.
+        row("first channel", {0, "GSM", "GSM 850", 1, 0, 824.2, -1}, "128");
+        row("last channel", {0, "GSM", "GSM 850", 0, 0, 893.8000000000001, 251}, "251");
+        row("off raster", {0, "GSM", "GSM 850", 1, 0, 824.3, -1}, "-1", printed("824.3"));
+        row("one ulp off", {0, "GSM", "GSM 850", 1, 0, std::nextafter(824.2, 900.0), 128}, "-1", printed("824.2"));
+        row("uplink-only, down", {0, "WIMAX", "ProfR26 (10 5275)", 0, 0, 5335.0, -1}, "67");
+        // Channel 55 maps to 3698 MHz, beyond the record's upper edge.
+        row("beyond the edge", {0, "WIMAX", "ProfR9 (3.5 3651)", 1, 0, 3698.0, -1}, "-1", printed("3698"));
+        row("placeholder", {0, "LTE-FDD", "Band 29 (900)", 1, 0, 1.0, 1}, "-1", printed("1"));
+        row("shared, no preference", {0, "LTE-FDD", "Band Global", 0, 0, 2140.0, -1}, "300");
+        row("shared, preferred", {0, "LTE-FDD", "Band Global", 0, 0, 2140.0, 66736}, "66736");
+        row("shared, stale preference", {0, "LTE-FDD", "Band Global", 0, 0, 2140.0, 18300}, "300");
+        row("NaN", {0, "GSM", "GSM 850", 1, 0, kNaN, -1}, "-1", printed("nan"));
+        row("+inf", {0, "GSM", "GSM 850", 1, 0, kInf, -1}, "-1", printed("inf"));
+        row("-0.0", {0, "GSM", "GSM 850", 1, 0, -0.0, 0}, "-1", printed("-0"));
+        row("six digits", {0, "GSM", "GSM 850", 1, 0, 1234567.5, -1}, "-1", printed("1.23457e+06"));
+        row("earliest record first", {1, "GSM", "Flat", 1, 0, 500.0, -1}, "900");
+        row("tenth kept", {1, "GSM", "Flat", 1, 0, 500.0, 8}, "8");
+        row("eleventh dropped", {1, "GSM", "Flat", 1, 0, 500.0, 9}, "900");
+        row("within epsilon", {1, "GSM", "Near", 1, 0, std::nextafter(0.75, 1.0), -1}, "1");
+        row("at epsilon", {1, "GSM", "Near", 1, 0, std::nextafter(1.5, 2.0), -1}, "-1", printed("1.5"));
+        row("up to INT_MAX", {1, "GSM", "Top", 1, 0, 700.0, -1}, "2147483645");
+        row("INT_MAX preferred", {1, "GSM", "Top", 1, 0, 700.0, INT_MAX}, "2147483647");
+        row("no records", {1, "GSM", "Empty", 1, 0, 500.0, -1}, "-1", printed("500"));
+    }
+    void channelOfFreq() { check(); }
+
+    // Uplink start channel minus downlink start channel; the link is not read.
+    void offset_data()
+    {
+        columns([](auto &s, auto &a, auto &t, auto &b) { return QString::number(s.GetOffsetChUpDown(t, b, a.channel, a.link)); });
+        row("down channel", {0, "LTE-FDD", "Band 1 (2100)", 0, 300}, "18000");
+        row("up channel, link not consulted", {0, "LTE-FDD", "Band 1 (2100)", 7, 18300}, "18000");
+        row("channel and link swapped", {0, "LTE-FDD", "Band 3 (1800)", 1300, 0}, "0");
+        row("in no record", {0, "GSM", "GSM 850", 1, 5}, "0");
+        // Time-division technologies have no offset, whatever their pairs say.
+        row("LTE-TDD", {0, "LTE-TDD", "Band Global", 1, 36000}, "0");
+        row("TD-SCDMA", {1, "TD-SCDMA", "", 1, 1}, "0");
+        // Pairs are read as they stand, placeholders and all.
+        row("placeholder down", {0, "5G NR", "Band n80 (UL 1800)", 1, 342000}, "341999");
+        row("placeholder up", {0, "LTE-FDD", "Band 29 (900)", 0, 9700}, "-9659");
+        row("global, two downlinks", {0, "LTE-FDD", "Band Global", 0, 9700}, "-450");
+        row("global, last pair", {0, "LTE-FDD", "Band Global", 0, 68950}, "64536");
+        row("down record first", {1, "GSM", "DownFirst", 0, 150}, "0");
+        row("up record last", {1, "GSM", "DownFirst", 1, 350}, "0");
+        row("listed WiMAX", {1, "WIMAX", "ProfR1 (1.25 2150)", 1, 0}, "0");
+        // The exemption goes by the name given, not by the band it selects.
+        row("unlisted name, same band", {1, "WIMAX", "ProfR1", 1, 0}, "-100");
+        row("unlisted name, down", {1, "WIMAX", "", 0, 105}, "-100");
+    }
+    void offset() { check(); }
+
+    void textForms_data()
+    {
+        // On a channel standard text, with the link as a number or, given in
+        // place of the band, as a direction word; the channel is also the
+        // preferred one.
+        columns([](auto &s, auto &a, auto &t, auto &b) {
+            const int c = a.channel;
+            return a.band ? nums({s.GetFreq(t, b, c), s.GetChNumFromFreq(t, b, a.mhz, c), s.GetOffsetChUpDown(t, b, c)})
+                          : nums({s.GetFreq(t, a.link, c), s.GetChNumFromFreq(t, a.link, a.mhz, c),
+                                  s.GetOffsetChUpDown(t, a.link, c)});
+        });
+        const QStringList invalid = warned(str("Channel Standard is invalid.( \"GSM 850\" )"), 3);
+        row("link 0", {0, "GSM - GSM 850", nullptr, 0, 128, 869.2}, "869.2 128 0");
+        row("Forward", {0, "GSM - GSM 850", "Forward", 9, 128, 869.2}, "869.2 128 0");
+        row("forward", {0, "GSM - GSM 850", "forward", 0, 128, 869.2}, "824.2 -1 0", printed("869.2"));
+        row("empty direction", {0, "GSM - GSM 850", "", 0, 128, 824.2}, "824.2 128 0");
+        row("empty band part", {0, "GSM -  - GSM 850", nullptr, 1, 259, 450.6}, "450.6 259 0");
+        row("link form, band 3", {0, "LTE-FDD - Band 3 (1800)", nullptr, 0, 1300, 1815.0}, "1815 1300 18000");
+        row("Reverse, band 3", {0, "LTE-FDD - Band 3 (1800)", "Reverse", 0, 19300, 1720.0}, "1720 19300 18000");
+        row("no separator", {0, "GSM 850", nullptr, 1, 128, 824.2}, "-1 -1 -1", invalid);
+        // The split fails before the frequency is looked at.
+        row("no separator, NaN", {0, "GSM 850", "Forward", 1, 128, kNaN}, "-1 -1 -1", invalid);
+    }
+    void textForms() { check(); }
+
+    // An invalid code gets the failure values, true from IsUplinkOnly but
+    // false from IsExistChannelNo; a valid one whose band has no record gets
+    // the name forms' empty answers.
+    void byEnum_data()
+    {
+        // Every member by enumerator (the code in place of the preferred
+        // channel): records, channels first and last, the conversion,
+        // bandwidth, flag, record 0's MHz, MHz low and high, existence, offset
+        // and frequency.
+        columns([](auto &s, auto &a, auto &, auto &) {
+            const int code = a.preferred, l = a.link, c = a.channel;
+            return nums({s.GetNumSubBand(code), s.GetStartChannelNo(code, l), s.GetStopChannelNo(code, l),
+                         s.GetChNumFromFreq(code, l, a.mhz, c), s.GetDefaultIntBW(code), s.IsUplinkOnly(code),
+                         s.GetStartFreq(code), s.GetStartFreq(code, l), s.GetStopFreq(code, l),
+                         s.IsExistChannelNo(code, l, c), s.GetOffsetChUpDown(code, l, c), s.GetFreq(code, l, c)});
+        });
+        row("102", {0, nullptr, nullptr, 1, 128, 824.3, 102}, "2 128 251 -1 300000 0 824 824 849 1 0 824.2",
+            printed("824.3"));
+        // Channel and link change places on the way to the name form.
+        row("203", {0, nullptr, nullptr, 0, 1300, 1815.0, 203}, "2 1200 1949 1300 10000000 0 1710 1805 1880 1 18000 1815");
+        row("735", {0, nullptr, nullptr, 0, 2070833, 27500.04, 735},
+            "2 2070833 2084999 2070833 1000000 0 1 27500 28350 1 -2070832 27500.04");
+        row("115, no records", {1, nullptr, nullptr, 1, 0, 0.0, 115}, "0 0 0 -1 300000 0 0 0 0 0 0 -1", printed("0"));
+        for (const int code : kInvalidCodes)
+            row(qPrintable(QString::number(code)), {0, nullptr, nullptr, 1, 128, 824.2, code},
+                "-1 -1 -1 -1 -1 1 -1 -1 -1 0 -1 -1",
+                warned(QStringLiteral("Channel Standard Enum is invalid.( %1 )").arg(code), 12));
+    }
+    void byEnum() { check(); }
 };
-
-// Bands that the real plan lacks, added to a private store under GSM:
-// "Hundred" fills all 100 records (uplink/downlink pairs, channels 1000+10i
-// to 1005+10i), "Negative" has negative channels, "Empty" has no record.
-void TestQueries::initTestCase()
-{
-    own = makeStore();
-    for (int i = 0; i < ChBand::MaxSubBands; ++i)
-        own->SetBandInfo(str("GSM"), str("Hundred"), 1000 + 10 * i, 1005 + 10 * i, 100.0 + i, 101.0 + i,
-                         100.0 + i, 1, i % 2 == 0 ? 1 : 0, &ChBandStore::chstdGetGSM_900, false);
-    own->SetBandInfo(str("GSM"), str("Negative"), -10, -5, 50.0, 51.0, 50.0, 1, 1, &ChBandStore::chstdGetGSM_900, false);
-    own->SetBandInfo(str("GSM"), str("Negative"), -3, 4, 60.0, 61.0, 60.0, 1, 0, &ChBandStore::chstdGetGSM_900, false);
-    own->Technologies[1].BandIndexMap.insert(str("Empty"), 11);
-    QCOMPARE(own->GetNumSubBand(str("GSM"), str("Hundred")), 100);
-}
-
-void TestQueries::limits_data()
-{
-    QTest::addColumn<bool>("ownStore");
-    QTest::addColumn<QString>("tech");
-    QTest::addColumn<QString>("band");
-    QTest::addColumn<int>("link");
-    QTest::addColumn<double>("lowMHz");
-    QTest::addColumn<double>("highMHz");
-    QTest::addColumn<int>("start");
-    QTest::addColumn<int>("stop");
-
-    const QString gsm = str("GSM"), fdd = str("LTE-FDD"), nr = str("5G NR");
-    QTest::newRow("GSM 850 up") << false << gsm << str("GSM 850") << 1 << 824.0 << 849.0 << 128 << 251;
-    QTest::newRow("GSM 850 down") << false << gsm << str("GSM 850") << 0 << 869.0 << 894.0 << 128 << 251;
-    // Channel 0 is a real answer: no fallback to the other link.
-    QTest::newRow("E-GSM up") << false << gsm << str("E-GSM 900") << 1 << 880.0 << 915.0 << 0 << 1023;
-    QTest::newRow("band 1 down") << false << fdd << str("Band 1 (2100)") << 0 << 2110.0 << 2170.0 << 0 << 599;
-    QTest::newRow("global down") << false << fdd << str("Band Global") << 0 << 461.0 << 3590.0 << 0 << 68985;
-    // Placeholders count for the frequency edges but never for channels:
-    // the other link answers instead.
-    QTest::newRow("global up") << false << fdd << str("Band Global") << 1 << 1.0 << 3490.0 << 18000 << 133521;
-    QTest::newRow("placeholder up") << false << fdd << str("Band 29 (900)") << 1 << 1.0 << 1.0 << 9660 << 9769;
-    QTest::newRow("placeholder down") << false << nr << str("Band n80 (UL 1800)") << 0 << 1.0 << 1.0 << 342000 << 357000;
-    QTest::newRow("n41 up") << false << nr << str("Band n41 (TD 2500)") << 1 << 1.0 << 1.0 << 499200 << 537999;
-    // Any link but 0 falls back to the downlink.
-    QTest::newRow("link 2") << false << fdd << str("Band 3 (1800)") << 2 << 0.0 << 0.0 << 1200 << 1949;
-    QTest::newRow("link -1") << false << fdd << str("Band 3 (1800)") << -1 << 0.0 << 0.0 << 1200 << 1949;
-    QTest::newRow("empty band name") << false << gsm << QString() << 1 << 450.4 << 457.6 << 259 << 293;
-    QTest::newRow("unknown names") << false << str("Foo") << str("Bar") << 1 << 824.0 << 849.0 << 1 << 1023;
-    // Negative stop channels never win; the other link's maximum does.
-    QTest::newRow("negative up") << true << gsm << str("Negative") << 1 << 50.0 << 51.0 << -10 << 4;
-    QTest::newRow("negative link 2") << true << gsm << str("Negative") << 2 << 0.0 << 0.0 << -3 << 4;
-    QTest::newRow("no records") << true << gsm << str("Empty") << 1 << 0.0 << 0.0 << 0 << 0;
-}
-
-void TestQueries::limits()
-{
-    QFETCH(bool, ownStore);
-    QFETCH(QString, tech);
-    QFETCH(QString, band);
-    QFETCH(int, link);
-    const ChBandStore &s = pick(ownStore);
-    LogCapture log;
-    QTEST_BITS(s.GetStartFreq(tech, band, link), "lowMHz");
-    QTEST_BITS(s.GetStopFreq(tech, band, link), "highMHz");
-    QTEST(s.GetStartChannelNo(tech, band, link), "start");
-    QTEST(s.GetStopChannelNo(tech, band, link), "stop");
-    COMPARE_LOG(log, QStringList(), QString());
-}
-
-void TestQueries::recordZero_data()
-{
-    QTest::addColumn<bool>("ownStore");
-    QTest::addColumn<QString>("tech");
-    QTest::addColumn<QString>("band");
-    QTest::addColumn<int>("records");
-    QTest::addColumn<double>("startMHz");
-    QTest::addColumn<bool>("uplinkOnly");
-
-    QTest::newRow("GSM 850") << false << str("GSM") << str("GSM 850") << 2 << 824.0 << false;
-    QTest::newRow("TDD") << false << str("LTE-TDD") << str("Band 33 (1900)") << 2 << 1900.0 << true;
-    QTest::newRow("WiMAX single") << false << str("WIMAX") << str("ProfR29 (8.75 2304)") << 1 << 2304.375 << true;
-    // Only record 0 answers; n41's flag sits on record 1.
-    QTest::newRow("n41") << false << str("5G NR") << str("Band n41 (TD 2500)") << 2 << 1.0 << false;
-    QTest::newRow("unknown names") << false << str("LTE") << str("Band 1 (2100)") << 4 << 824.0 << false;
-    QTest::newRow("no records") << true << str("GSM") << str("Empty") << 0 << 0.0 << false;
-}
-
-void TestQueries::recordZero()
-{
-    QFETCH(bool, ownStore);
-    QFETCH(QString, tech);
-    QFETCH(QString, band);
-    LogCapture log;
-    QTEST(pick(ownStore).GetNumSubBand(tech, band), "records");
-    QTEST_BITS(pick(ownStore).GetStartFreq(tech, band), "startMHz");
-    QTEST(pick(ownStore).IsUplinkOnly(tech, band), "uplinkOnly");
-    COMPARE_LOG(log, QStringList(), QString());
-}
-
-void TestQueries::defaultIntBW_data()
-{
-    QTest::addColumn<QString>("tech");
-    QTest::addColumn<double>("hertz");
-
-    const char *const names[] = {"CDMA", "GSM", "WCDMA", "LTE-FDD", "LTE-TDD", "TD-SCDMA", "WIMAX",
-                                 "5G NR", "gsm", "GSM ", ""};
-    const double hertz[] = {1230000.0, 300000.0, 3840000.0, 10000000.0, 10000000.0, 1280000.0, 10000000.0,
-                            1000000.0, 1000000.0, 1000000.0, 1000000.0};
-    for (int i = 0; i < int(std::size(names)); ++i)
-        QTest::newRow(names[i]) << str(names[i]) << hertz[i];
-}
-
-void TestQueries::defaultIntBW()
-{
-    QFETCH(QString, tech);
-    LogCapture log;
-    QTEST_BITS(global.GetDefaultIntBW(tech), "hertz");
-    COMPARE_LOG(log, QStringList(), QString());
-}
-
-void TestQueries::channelToFreq_data()
-{
-    QTest::addColumn<bool>("ownStore");
-    QTest::addColumn<QString>("tech");
-    QTest::addColumn<QString>("band");
-    QTest::addColumn<int>("link");
-    QTest::addColumn<int>("channel");
-    QTest::addColumn<double>("freq");    // GetFreq
-    QTest::addColumn<double>("noLimit"); // GetFreqNoLimit
-    QTest::addColumn<bool>("exists");    // IsExistChannelNo
-
-    const QString gsm = str("GSM"), b850 = str("GSM 850"), fdd = str("LTE-FDD"), nr = str("5G NR");
-    const QString all = str("Band Global"), n41 = str("Band n41 (TD 2500)");
-    QTest::newRow("first up") << false << gsm << b850 << 1 << 128 << 824.2 << 824.2 << true;
-    QTest::newRow("last down") << false << gsm << b850 << 0 << 251 << 869.2 + 123 * 0.2 << 869.2 + 123 * 0.2 << true;
-    QTest::newRow("above") << false << gsm << b850 << 1 << 252 << -1.0 << 824.2 + 124 * 0.2 << false;
-    QTest::newRow("extrapolated") << false << gsm << b850 << 1 << 0 << -1.0 << 824.2 + (0 - 128) * 0.2 << false;
-    QTest::newRow("INT_MAX") << false << gsm << b850 << 0 << INT_MAX << -1.0 << 869.2 + 2147483519.0 * 0.2 << false;
-    QTest::newRow("FDD link 2") << false << gsm << b850 << 2 << 128 << -1.0 << -1.0 << false;
-    QTest::newRow("FDD link -1, INT_MIN") << false << gsm << b850 << -1 << INT_MIN << -1.0 << -1.0 << false;
-    // The first record of the link decides for GetFreqNoLimit.
-    QTest::newRow("E-GSM second range") << false << gsm << str("E-GSM 900") << 1 << 1000
-                                        << 890.0 + (1000 - 1024) * 0.2 << 890.0 + 1000 * 0.2 << true;
-    QTest::newRow("down channel, up link") << false << fdd << str("Band 1 (2100)") << 1 << 300 << -1.0
-                                           << 1920.0 + (300 - 18000) * 0.1 << false;
-    // "Band Global" is time-division by its name: every record is eligible,
-    // the first one holding the channel wins, even before a placeholder of
-    // the asked link.
-    QTest::newRow("global, up link") << false << fdd << all << 1 << 300 << 2110.0 + 300 * 0.1
-                                     << 1920.0 + (300 - 18000) * 0.1 << false;
-    QTest::newRow("global, link 2") << false << fdd << all << 2 << 300 << 2110.0 + 300 * 0.1 << -1.0 << false;
-    QTest::newRow("global, placeholder later") << false << fdd << all << 1 << 1 << 2110.0 + 1 * 0.1
-                                               << 1920.0 + (1 - 18000) * 0.1 << true;
-    QTest::newRow("NR global, up link") << false << nr << all << 1 << 422000 << 2110.0
-                                        << 1920.0 + (422000 - 384000) * 0.005 << false;
-    QTest::newRow("placeholder") << false << fdd << str("Band 29 (900)") << 1 << 1 << 1.0 + (1 - 27660) * 0.1
-                                 << 1.0 + (1 - 27660) * 0.1 << true;
-    QTest::newRow("past placeholder") << false << fdd << str("Band 29 (900)") << 1 << 9660 << -1.0
-                                      << 1.0 + (9660 - 27660) * 0.1 << false;
-    // Uplink-only records serve every link, except for IsExistChannelNo.
-    QTest::newRow("uplink-only record") << false << nr << n41 << -1 << 499400 << 2496.0 + 200 * 0.005
-                                        << 2496.0 + 200 * 0.005 << false;
-    QTest::newRow("link before flag") << false << nr << n41 << 1 << 499400 << 2496.0 + 200 * 0.005
-                                      << 1.0 + (499400 - 1) * 0.005 << false;
-    QTest::newRow("TDD link 2") << false << str("LTE-TDD") << str("Band 40 (2300)") << 2 << 38650 << 2300.0 << 2300.0 << false;
-    QTest::newRow("TDS link 2") << false << str("TD-SCDMA") << str("FBN 3") << 2 << 0 << 1971.8 + 1 * 0.2
-                                << 1971.8 + 1 * 0.2 << false;
-    QTest::newRow("paired WiMAX link 2") << false << str("WIMAX") << str("ProfR6 (3.5 2598)") << 2 << 0 << -1.0 << -1.0 << false;
-    QTest::newRow("single WiMAX down") << false << str("WIMAX") << str("ProfR1 (1.25 2150)") << 0 << 3
-                                       << 2150.625 + 3 * 1.25 << 2150.625 + 3 * 1.25 << false;
-    QTest::newRow("empty band name") << false << gsm << QString() << 1 << 259 << 450.6 << 450.6 << true;
-    QTest::newRow("unknown tech") << false << str("Foo") << b850 << 1 << 128 << 825.0 + 128 * 0.03
-                                  << 825.0 + 128 * 0.03 << true;
-    QTest::newRow("no records") << true << gsm << str("Empty") << -9 << 0 << -1.0 << -1.0 << false;
-}
-
-void TestQueries::channelToFreq()
-{
-    QFETCH(bool, ownStore);
-    QFETCH(QString, tech);
-    QFETCH(QString, band);
-    QFETCH(int, link);
-    QFETCH(int, channel);
-    const ChBandStore &s = pick(ownStore);
-    LogCapture log;
-    QTEST_BITS(s.GetFreq(tech, band, link, channel), "freq");
-    QTEST_BITS(s.GetFreqNoLimit(tech, band, link, channel), "noLimit");
-    QTEST(s.IsExistChannelNo(tech, band, link, channel), "exists");
-    COMPARE_LOG(log, QStringList(), QString());
-}
-
-void TestQueries::stopInSample_data()
-{
-    QTest::addColumn<bool>("ownStore");
-    QTest::addColumn<QString>("tech");
-    QTest::addColumn<QString>("band");
-    QTest::addColumn<int>("channel");
-    QTest::addColumn<int>("link");
-    QTest::addColumn<int>("stop");
-
-    const QString gsm = str("GSM"), cdma = str("CDMA"), b0 = str("Band 0 (800)"), fdd = str("LTE-FDD");
-    QTest::newRow("GSM 850") << false << gsm << str("GSM 850") << 128 << 1 << 251;
-    QTest::newRow("in no record") << false << gsm << str("GSM 850") << 300 << 1 << 251;
-    QTest::newRow("second pair, down") << false << cdma << b0 << 1000 << 0 << 1023;
-    QTest::newRow("channel and link swapped") << false << cdma << b0 << 1 << 1000 << 799;
-    QTest::newRow("other link's record") << false << fdd << str("Band 3 (1800)") << 1300 << 1 << 1949;
-    // A downlink record is replaced by the uplink record after it, except
-    // the last one, whose neighbour was never written.
-    QTest::newRow("shadowed") << false << fdd << str("Band Global") << 300 << 1 << 18599;
-    QTest::newRow("not shadowed") << false << fdd << str("Band Global") << 300 << 0 << 599;
-    QTest::newRow("last record") << false << fdd << str("Band Global") << 68950 << 1 << 68985;
-    // The unwritten neighbour (link -9, channels 0 to 0) is a candidate too.
-    QTest::newRow("unwritten neighbour") << false << gsm << str("GSM 850") << 0 << -9 << 0;
-    QTest::newRow("100: pair") << true << gsm << str("Hundred") << 1982 << 1 << 1985;
-    QTest::newRow("100: shadowed") << true << gsm << str("Hundred") << 1012 << 1 << 1005;
-    QTest::newRow("100: down") << true << gsm << str("Hundred") << 1012 << 0 << 1015;
-    QTest::newRow("100: last record") << true << gsm << str("Hundred") << 1992 << 1 << 1995;
-    QTest::newRow("100: beyond the array") << true << gsm << str("Hundred") << 0 << -9 << 0;
-    QTest::newRow("no records") << true << gsm << str("Empty") << 0 << -9 << 0;
-}
-
-void TestQueries::stopInSample()
-{
-    QFETCH(bool, ownStore);
-    QFETCH(QString, tech);
-    QFETCH(QString, band);
-    QFETCH(int, channel);
-    QFETCH(int, link);
-    LogCapture log;
-    QTEST(pick(ownStore).GetStopChannelNo_InSample(tech, band, channel, link), "stop");
-    COMPARE_LOG(log, QStringList(), QString());
-}
 
 QTEST_APPLESS_MAIN(TestQueries)
 #include "tst_queries.moc"

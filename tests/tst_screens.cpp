@@ -1,294 +1,312 @@
-#include "logcapture.h"
 #include "testsupport.h"
 
-#include <QtCore/QMap>
-
 #include <climits>
-#include <memory>
+#include <limits>
 
 namespace {
 
-struct TechBands
+const double kNaN = std::numeric_limits<double>::quiet_NaN();
+const double kInf = std::numeric_limits<double>::infinity();
+
+// One call's arguments; a row leaves those it does not need at 0. `own` picks
+// the private store of initTestCase; `call` makes the call and gives its
+// answer as one string.
+struct Args;
+using Call = QString (*)(const ChBandStore &, const Args &, const QString &tech, const QString &band);
+struct Args
 {
-    int count;
-    const char *first;
-    const char *last;
+    bool own = false;
+    const char *tech = nullptr, *band = nullptr; // or the channel standard and the direction
+    int link = 0;
+    double low = 0.0, high = 0.0;
+    Call call = nullptr;
 };
 
-// Band count and first and last band of each technology that a mode can show.
-const QMap<QString, TechBands> &knownTechnologies()
+Call g_call; // the call of the rows being added
+
+void columns(Call call)
 {
-    static const QMap<QString, TechBands> map = {
-        {QStringLiteral("CDMA"), {11, "Band 0 (800)", "Band 10 (2nd 800)"}},
-        {QStringLiteral("GSM"), {9, "GSM 450", "PCS 1900"}},
-        {QStringLiteral("LTE-FDD"), {38, "Band Global", "Band 72 (450)"}},
-        {QStringLiteral("LTE-TDD"), {17, "Band Global", "Band 48 (3600)"}},
-        {QStringLiteral("TD-SCDMA"), {9, "FBN 0", "FBN 8"}},
-        {QStringLiteral("WCDMA"), {33, "Band Global", "Band 26 (1900-Additional)"}},
-        {QStringLiteral("WIMAX"), {19, "ProfR1 (1.25 2150)", "ProfR29 (8.75 2304)"}},
-        {QStringLiteral("5G NR"), {36, "Band Global", "Band n261 (28 GHz)"}},
-    };
-    return map;
+    g_call = call;
+    QTest::addColumn<Args>("a");
+    QTest::addColumn<QString>("expected");
+    QTest::addColumn<QStringList>("log");
 }
 
-// Technology names separated by blanks ("5G NR" never occurs in a mode).
-QStringList techList(const char *names)
+void row(const char *name, Args a, const char *expected, const QStringList &log = {})
 {
-    return QString::fromLatin1(names).split(QLatin1Char(' '));
+    a.call = g_call;
+    QTest::newRow(name) << a << str(expected) << log;
+}
+
+// Hits joined by "; " as tech|band|link|channel|offset, so that a failure
+// shows the whole ordering at a glance.
+QString render(const QList<ChInfo> &hits)
+{
+    QStringList out;
+    for (const ChInfo &h : hits)
+        out << QString::asprintf("%s|%s|%d|%d|%g", qPrintable(h.techName), qPrintable(h.bandName), h.linkDirection,
+                                 h.channelNo, h.freqOffset)
+                   + (h.reserved ? QStringLiteral("|reserved %1").arg(h.reserved) : QString());
+    return out.join(QLatin1String("; "));
+}
+
+// Channel numbers with runs of consecutive ones as first..last.
+QString render(const QList<int> &channels)
+{
+    QStringList out;
+    for (int i = 0, n = 1; i < channels.size(); i += n, n = 1) {
+        while (i + n < channels.size() && channels[i + n] == channels[i] + n)
+            ++n;
+        out << QString::number(channels[i]) + (n > 1 ? QStringLiteral("..%1").arg(channels[i + n - 1]) : QString());
+    }
+    return out.join(QLatin1Char(' '));
+}
+
+QStringList counted(int channels)
+{
+    return {QStringLiteral("D AvailableChannels :  %1").arg(channels)};
 }
 
 } // namespace
+
+Q_DECLARE_METATYPE(Args)
 
 class TestScreens : public QObject
 {
     Q_OBJECT
 
+    std::unique_ptr<ChBandStore> own;
+
+    // The row's call on its store: its answer and everything it logged.
+    void check()
+    {
+        QFETCH(Args, a);
+        LogCapture log;
+        QTEST(a.call(a.own ? *own : G_CHSTD, a, str(a.tech), str(a.band)), "expected");
+        QTEST(log.take(), "log");
+    }
+
 private slots:
-    void refStrings_data();
-    void refStrings();
-    void refStringsOwnBands_data();
-    void refStringsOwnBands();
-    void bandListByMode_data();
-    void bandListByMode();
-    void setBandListColumns_data();
-    void setBandListColumns();
+    // A private store with records that no real band has. Above 40 GHz, where
+    // nothing of the plan interferes: GSM "Test band" with a record whose first
+    // channel exceeds its last, a CDMA band of the same name registered later
+    // but in an earlier slot, an extra record in LTE-FDD's global band, and
+    // "Edge band" ending at INT_MAX (channel INT_MAX - 1 at exactly 60000 MHz).
+    // For the texts: "Three" records, "Many" (24, uplink and downlink
+    // alternating) and "Empty", a band slot without records. "Crowd" holds 24
+    // records that tie at 70000 MHz.
+    void initTestCase()
+    {
+        own = makeStore();
+        const QString gsm = str("GSM"), band = str("Test band");
+        const auto step125 = &ChBandStore::chstdGetWIMAX_Common1; // base + ch x 1.25, exact
+        const auto f = &ChBandStore::chstdGetGSM_900;             // base + ch x 0.2
+        own->SetBandInfo(gsm, band, 10, 5, 50000.0, 50100.0, 50000.0, 0, 0, step125, false);
+        own->SetBandInfo(gsm, band, 0, 8, 50000.0, 50010.0, 50000.0, 0, 1, step125, false);
+        own->SetBandInfo(gsm, band, 0, 8, 50000.0, 50010.0, 50000.0, 0, 0, step125, false);
+        own->SetBandInfo(gsm, band, 0, 3, 50000.0, 50100.0, 50004.5, 0, 1, step125, false);
+        own->SetBandInfo(str("CDMA"), band, 0, 8, 50000.0, 50010.0, 50000.0, 0, 0, step125, false);
+        own->SetBandInfo(str("LTE-FDD"), str("Band Global"), 0, 8, 50000.0, 50010.0, 50000.0, 0, 0, step125, false);
+        own->SetBandInfo(gsm, str("Edge band"), INT_MAX - 2, INT_MAX, 59990.0, 60010.0, 60000.0 - 2147483646.0 * 1.25,
+                         0, 1, step125, false);
+        own->SetBandInfo(gsm, str("Three"), 1, 2, 100.0, 101.0, 100.0, 1, 1, f, false);
+        own->SetBandInfo(gsm, str("Three"), 3, 4, 200.0, 201.0, 200.0, 1, 0, f, false);
+        own->SetBandInfo(gsm, str("Three"), 5, 6, 100.0, 101.0, 100.0, 1, 1, f, false);
+        for (int i = 0; i < 24; ++i)
+            own->SetBandInfo(gsm, str("Many"), 10 * i, 10 * i + 5, 100.0, 200.0, i % 2 ? 200.0 : 100.0, 1,
+                             i % 2 ? 0 : 1, f, false);
+        own->Technologies[1].BandIndexMap.insert(str("Empty"), own->Technologies[1].NumBand++);
+        for (int i = 0; i < 24; ++i) // channel i at exactly 70000 MHz: ties beyond a short sort's reach
+            own->SetBandInfo(gsm, str("Crowd"), i, i, 69990.0, 70010.0, 70000.0 - 1.25 * i, 0, 1, step125, false);
+    }
+
+    void search_data()
+    {
+        columns([](auto &s, auto &a, auto &, auto &) { return render(s.GetChInfoFromFreq(a.low)); });
+        // Exact hits across technologies keep technology order; the 0.1 MHz
+        // misses of GSM and WCDMA tie as well and follow.
+        row("1842.5, ties across technologies", {0, nullptr, nullptr, 0, 1842.5},
+            "CDMA|Band 4 (KR PCS)|0|50|0; CDMA|Band 8 (1800)|0|750|0; LTE-FDD|Band 3 (1800)|0|1575|0; "
+            "5G NR|Band n3 (1800)|0|368500|0; GSM|DCS 1800|0|698|-0.1; WCDMA|Band 3 (1800-General)|0|1337|-0.1");
+        // Both LTE-TDD directions hold 3500: uplink record first. The 1.25 MHz
+        // WiMAX raster puts 3500 halfway between channels 79 and 80: 79 wins.
+        row("3500, TDD directions and halfway", {0, nullptr, nullptr, 0, 3500.0},
+            "LTE-TDD|Band 42 (3400)|1|42590|0; LTE-TDD|Band 42 (3400)|0|42590|0; "
+            "5G NR|Band n77 (TD 3700)|0|633333|-0.005; 5G NR|Band n78 (TD 3500)|0|633333|-0.005; "
+            "WIMAX|ProfR5 (1.25 3400)|1|79|-0.625");
+        for (const double nothing : {kNaN, kInf, -kInf, 0.0, -1842.5, 40000.001})
+            row(qPrintable(QString::number(nothing)), {0, nullptr, nullptr, 0, nothing}, "");
+        // The record whose first channel exceeds its last matches but chooses
+        // no channel, so it comes last though it was scanned first; the global
+        // band is never reported.
+        row("exact ties, then -0.5, then no channel", {1, nullptr, nullptr, 0, 50005.0},
+            "CDMA|Test band|0|4|0; GSM|Test band|1|4|0; GSM|Test band|0|4|0; GSM|Test band|1|0|-0.5; "
+            "GSM|Test band|-1|-1|2e+09");
+        row("lower limit", {1, nullptr, nullptr, 0, 50000.0},
+            "CDMA|Test band|0|0|0; GSM|Test band|1|0|0; GSM|Test band|0|0|0; GSM|Test band|1|0|4.5; "
+            "GSM|Test band|-1|-1|2e+09");
+        row("upper limit, far from every channel", {1, nullptr, nullptr, 0, 50100.0},
+            "GSM|Test band|1|3|-91.75; GSM|Test band|-1|-1|2e+09");
+        row("channels up to INT_MAX", {1, nullptr, nullptr, 0, 60000.0}, "GSM|Edge band|1|2147483646|0");
+        QStringList crowd;
+        for (int i = 0; i < 24; ++i)
+            crowd << QStringLiteral("GSM|Crowd|1|%1|0").arg(i);
+        row("24 ties keep record order", {1, nullptr, nullptr, 0, 70000.0}, qPrintable(crowd.join(QLatin1String("; "))));
+    }
+    void search() { check(); }
+
+    // Every call but a malformed one logs its count as one debug line.
+    void availableChannels_data()
+    {
+        columns([](auto &s, auto &a, auto &t, auto &b) { return render(s.GetAvailableChannels(t, b, a.low, a.high)); });
+        const char *gsm850 = "GSM - GSM 850", *r1 = "WIMAX - ProfR1 (1.25 2150)", *n1 = "5G NR - Band n1 (2100)";
+        row("both bounds inclusive", {0, gsm850, "Forward", 0, 869.2, 869.6}, "128..130", counted(3));
+        row("exact raster, inclusive", {0, r1, "Reverse", 0, 2151.875, 2155.625}, "1..4", counted(4));
+        row("just above a channel", {0, r1, "Reverse", 0, 2151.8750001, 2155.6249999}, "2..3", counted(2));
+        row("lower-case forward is uplink", {0, gsm850, "forward", 0, 824.2, 824.6}, "128..130", counted(3));
+        // 991..1023 (824.04 to 825.00 MHz) is the second uplink record: not offered.
+        row("first record of the direction only", {0, "CDMA - Band 0 (800)", "Reverse", 0, 824.0, 825.1}, "1..3",
+            counted(3));
+        row("unknown names select CDMA Band 0", {0, "Foo - Bar", "Forward", 0, 870.0, 870.07}, "1..2", counted(2));
+        row("parts after the second ignored", {0, "LTE-FDD - Band 1 (2100) - x", "Forward", 0, 2110.0, 2110.25}, "0..2",
+            counted(3));
+        row("formula counts from the first channel", {0, n1, "Forward", 0, 2110.0, 2110.012}, "422000..422002",
+            counted(3));
+        row("record limits not consulted", {0, n1, "Forward", 0, 2169.99, 2170.0}, "433998..434000", counted(3));
+        row("no record of the direction", {0, r1, "Forward", 0, 0.0, 1e9}, "", counted(0));
+        row("low above high", {0, gsm850, "Forward", 0, 893.8, 869.2}, "", counted(0));
+        row("NaN low", {0, gsm850, "Forward", 0, kNaN, 900.0}, "", counted(0));
+        row("infinite window", {0, gsm850, "Forward", 0, -kInf, kInf}, "128..251", counted(124));
+        // The first downlink record is the one whose first channel exceeds its
+        // last; the later, well-formed downlink record is not offered.
+        row("malformed first record", {1, "GSM - Test band", "Forward", 0, 0.0, 1e9}, "", counted(0));
+        row("up to INT_MAX", {1, "GSM - Edge band", "Reverse", 0, 59999.0, 60002.0}, "2147483646..2147483647",
+            counted(2));
+        row("no separator", {0, "GSM 850", "Forward", 0, 0.0, 1e9}, "",
+            {str("W Channel Standard is invalid.( \"GSM 850\" )")});
+    }
+    void availableChannels() { check(); }
+
+    // The channels on one line, the channels and the MHz one range a line.
+    void refStrings_data()
+    {
+        columns([](auto &s, auto &a, auto &t, auto &b) {
+            return QStringList{s.GetChNumRefString(t, b, a.link), s.GetChNumRefString_List(t, b, a.link),
+                               s.GetFreqRefString_List(t, b, a.link)}.join(QLatin1String(" | "));
+        });
+        const char *b0 = "Band 0 (800)";
+        // Non-paired: records 0, 2, ... whatever the selector; frequencies follow it.
+        row("CDMA uplink", {0, "CDMA", b0, 1},
+            "(1 - 799 /991 - 1023 ) | (1 - 799)\n(991 - 1023) | (825.03 - 848.97)\n(824.04 - 825.00)");
+        row("CDMA selector 2", {0, "CDMA", b0, 2},
+            "(1 - 799 /991 - 1023 ) | (1 - 799)\n(991 - 1023) | (-1.00 - -1.00)\n(-1.00 - -1.00)");
+        row("GSM 935.00", {0, "GSM", "E-GSM 900", 0},
+            "(0 - 124 /975 - 1023 ) | (0 - 124)\n(975 - 1023) | (935.00 - 959.80)\n(925.20 - 934.80)");
+        // Time-division: every record is eligible, so any selector converts.
+        row("LTE-TDD selector 7", {0, "LTE-TDD", "Band 42 (3400)", 7},
+            "(41590 - 43589 ) | (41590 - 43589) | (3400.00 - 3599.90)");
+        // One record gives one range; an exact x.xx5 rounds away from zero.
+        row("WIMAX one record", {0, "WIMAX", "ProfR1 (1.25 2150)", 0}, "(0 - 7 ) | (0 - 7) | (2150.63 - 2159.38)");
+        // Paired: non-zero selects record 0, zero selects record 1.
+        row("LTE-FDD downlink", {0, "LTE-FDD", "Band 1 (2100)", 0}, "(0 - 599) | (0 - 599) | (2110.00 - 2169.90)");
+        row("LTE-FDD selector -3", {0, "LTE-FDD", "Band 1 (2100)", -3},
+            "(18000 - 18599) | (18000 - 18599) | (-1.00 - -1.00)");
+        row("5G NR 3799.995", {0, "5G NR", "Band n78 (TD 3500)", 0},
+            "(620000 - 653333) | (620000 - 653333) | (3300.00 - 3799.99)");
+        // The given band name decides: a blank for "Band Global" under any name.
+        for (const char *tech : {"LTE-FDD", "WCDMA", "5G NR", "CDMA", "Nonsense"})
+            row(tech, {0, tech, "Band Global", 1}, "  |   |  ");
+        // Not the exact name: slot 0 of LTE-FDD, which is the global band itself.
+        row("band global", {0, "LTE-FDD", "band global", 1}, "(18000 - 18599) | (18000 - 18599) | (1920.00 - 1979.90)");
+        row("unknown technology", {0, "LTE", "Band 1 (NA PCS)", 1}, "(0 - 1199 ) | (0 - 1199) | (1850.00 - 1909.95)");
+        row("no records", {1, "GSM", "Empty", 1}, ") |  | ");
+        row("three records, one range", {1, "GSM", "Three", 1}, "(1 - 2 ) | (1 - 2) | (100.20 - 100.40)");
+        row("twelve ranges, no limit", {1, "GSM", "Many", 1},
+            "(0 - 5 /20 - 25 /40 - 45 /60 - 65 /80 - 85 /100 - 105 /120 - 125 /140 - 145 /160 - 165 /180 - 185 "
+            "/200 - 205 /220 - 225 ) | (0 - 5)\n(20 - 25)\n(40 - 45)\n(60 - 65)\n(80 - 85)\n(100 - 105)\n"
+            "(120 - 125)\n(140 - 145)\n(160 - 165)\n(180 - 185)\n(200 - 205)\n(220 - 225) | (100.00 - 101.00)\n"
+            "(104.00 - 105.00)\n(108.00 - 109.00)\n(112.00 - 113.00)\n(116.00 - 117.00)\n(120.00 - 121.00)\n"
+            "(124.00 - 125.00)\n(128.00 - 129.00)\n(132.00 - 133.00)\n(136.00 - 137.00)\n(140.00 - 141.00)\n"
+            "(144.00 - 145.00)");
+    }
+    void refStrings() { check(); }
+
+    void bandListByMode_data()
+    {
+        QTest::addColumn<int>("mode");
+        QTest::addColumn<QString>("techs");
+        const char *all = "CDMA GSM LTE-FDD LTE-TDD TD-SCDMA WCDMA WIMAX", *fdd = "LTE-FDD LTE-TDD WCDMA";
+        const char *groups[] = {"", all, "", "", all, "", "GSM", "", "WCDMA", "TD-SCDMA", "CDMA", "WIMAX", "CDMA",
+                                "LTE-FDD", "LTE-TDD", "", all, all, "", "", fdd, "", fdd, all, ""};
+        for (int mode = 0; mode < int(std::size(groups)); ++mode)
+            QTest::addRow("mode %d", mode) << mode << str(groups[mode]);
+        for (const int mode : {-1, 100, 701, INT_MIN, INT_MAX})
+            QTest::addRow("mode %d", mode) << mode << QString();
+    }
+
+    // The technologies' rows in order (GetBandList is checked on its own),
+    // each with its own band's range text; the second argument is never read.
+    void bandListByMode()
+    {
+        QFETCH(int, mode);
+        QFETCH(QString, techs);
+        LogCapture log;
+        for (const int linkSel : {1, 0}) {
+            stCHList expected;
+            for (const QString &tech : techs.split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
+                for (const QString &band : G_CHSTD.GetBandList(tech)) {
+                    expected.techList << tech;
+                    expected.bandList << band;
+                    expected.chRangeList << G_CHSTD.GetChNumRefString_List(tech, band, linkSel);
+                }
+            }
+            for (const int unused : {0, -7, INT_MAX}) {
+                const stCHList list = ChStd::GetBandListByMode(mode, unused, linkSel);
+                QCOMPARE(list.techList, expected.techList);
+                QCOMPARE(list.bandList, expected.bandList);
+                QCOMPARE(list.chRangeList, expected.chRangeList);
+                QVERIFY(list.freqRangeList.isEmpty());
+            }
+        }
+        QCOMPARE(log.take(), QStringList());
+    }
+
+    void setBandListColumns_data()
+    {
+        QTest::addColumn<QString>("tech");
+        QTest::addColumn<int>("count");
+        QTest::addColumn<int>("row");
+        QTest::addColumn<QString>("cells"); // band, channel range, frequency range
+        QTest::newRow("GSM") << str("GSM") << 9 << 2 << str("GSM 850|(128 - 251)|(824.20 - 848.80)");
+        // No mode shows 5G NR, but the setters do.
+        QTest::newRow("5G NR global") << str("5G NR") << 36 << 0 << str("Band Global| | ");
+        QTest::newRow("5G NR n1") << str("5G NR") << 36 << 1 << str("Band n1 (2100)|(384000 - 396000)|(1920.00 - 1980.00)");
+        // An unknown technology lists CDMA's bands but keeps its own name.
+        QTest::newRow("unknown technology") << str("Foo") << 11 << 0
+                                            << str("Band 0 (800)|(1 - 799)\n(991 - 1023)|(825.03 - 848.97)\n(824.04 - 825.00)");
+    }
+
+    void setBandListColumns()
+    {
+        QFETCH(QString, tech);
+        QFETCH(int, count);
+        QFETCH(int, row);
+        const QString x = QStringLiteral("x"); // a row already present stays first
+        stCHList list{{x}, {x}, {x}, {x}};
+        LogCapture log;
+        ChStd::SetBandListName(tech, list);
+        QCOMPARE(nums({list.techList.size(), list.bandList.size(), list.chRangeList.size()}), nums({1, 1 + count, 1}));
+        ChStd::SetBandListRange(tech, 1, list);
+        QCOMPARE(log.take(), QStringList());
+        QCOMPARE(nums({list.techList.size(), list.bandList.size(), list.chRangeList.size(), list.freqRangeList.size(),
+                       list.techList.count(tech)}),
+                 nums({1 + count, 1 + count, 1 + count, 1 + count, count}));
+        QCOMPARE((QStringList{list.techList[0], list.bandList[0], list.chRangeList[0], list.freqRangeList[0]}),
+                 (QStringList{x, x, x, x}));
+        QTEST((QStringList{list.bandList[1 + row], list.chRangeList[1 + row], list.freqRangeList[1 + row]}).join(QLatin1Char('|')),
+              "cells");
+    }
 };
 
-void TestScreens::refStrings_data()
-{
-    QTest::addColumn<QString>("tech");
-    QTest::addColumn<QString>("band");
-    QTest::addColumn<int>("linkSel");
-    QTest::addColumn<QString>("chNum");
-    QTest::addColumn<QString>("chNumList");
-    QTest::addColumn<QString>("freqList");
-    auto row = [](const char *name, const char *tech, const char *band, int sel, const char *ch,
-                  const char *list, const char *freq) {
-        QTest::newRow(name) << tech << band << sel << ch << list << freq;
-    };
-    const char *b0 = "Band 0 (800)", *b0Ch = "(1 - 799 /991 - 1023 )",
-               *b0List = "(1 - 799)\n(991 - 1023)", *lte1 = "Band 1 (2100)";
-
-    // Non-paired: records 0, 2, ... whatever the selector; frequencies follow it.
-    row("CDMA uplink", "CDMA", b0, 1, b0Ch, b0List, "(825.03 - 848.97)\n(824.04 - 825.00)");
-    row("CDMA downlink", "CDMA", b0, 0, b0Ch, b0List, "(870.03 - 893.97)\n(869.04 - 870.00)");
-    row("CDMA selector 2", "CDMA", b0, 2, b0Ch, b0List, "(-1.00 - -1.00)\n(-1.00 - -1.00)");
-    row("CDMA four ranges", "CDMA", "Band 3 (JTACS)", 1,
-        "(1 - 799 /801 - 1039 /1041 - 1199 /1201 - 1600 )",
-        "(1 - 799)\n(801 - 1039)\n(1041 - 1199)\n(1201 - 1600)",
-        "(915.01 - 924.99)\n(898.01 - 900.99)\n(887.01 - 888.99)\n(893.01 - 898.00)");
-    row("GSM 935.00", "GSM", "E-GSM 900", 0, "(0 - 124 /975 - 1023 )", "(0 - 124)\n(975 - 1023)",
-        "(935.00 - 959.80)\n(925.20 - 934.80)");
-    // Time-division: every record is eligible, so any selector converts.
-    row("LTE-TDD selector 7", "LTE-TDD", "Band 42 (3400)", 7, "(41590 - 43589 )",
-        "(41590 - 43589)", "(3400.00 - 3599.90)");
-    // One record gives one range; an exact x.xx5 rounds away from zero.
-    row("WIMAX one record", "WIMAX", "ProfR1 (1.25 2150)", 0, "(0 - 7 )", "(0 - 7)",
-        "(2150.63 - 2159.38)");
-
-    // Paired: non-zero selects record 0, zero selects record 1.
-    row("LTE-FDD uplink", "LTE-FDD", lte1, 1, "(18000 - 18599)", "(18000 - 18599)",
-        "(1920.00 - 1979.90)");
-    row("LTE-FDD downlink", "LTE-FDD", lte1, 0, "(0 - 599)", "(0 - 599)", "(2110.00 - 2169.90)");
-    row("LTE-FDD selector -3", "LTE-FDD", lte1, -3, "(18000 - 18599)", "(18000 - 18599)",
-        "(-1.00 - -1.00)");
-    row("5G NR placeholder", "5G NR", "Band n78 (TD 3500)", 1, "(1 - 1)", "(1 - 1)",
-        "(1.00 - 1.00)");
-    row("5G NR 3799.995", "5G NR", "Band n78 (TD 3500)", 0, "(620000 - 653333)",
-        "(620000 - 653333)", "(3300.00 - 3799.99)");
-
-    // The given band name decides: a blank for "Band Global" under any name.
-    for (const char *tech : {"LTE-FDD", "WCDMA", "5G NR", "CDMA", "Nonsense"})
-        row(tech, tech, "Band Global", 1, " ", " ", " ");
-    // Not the exact name: slot 0 of LTE-FDD, which is the global band itself.
-    row("band global", "LTE-FDD", "band global", 1, "(18000 - 18599)", "(18000 - 18599)",
-        "(1920.00 - 1979.90)");
-    row("unknown technology", "LTE", "Band 1 (NA PCS)", 1, "(0 - 1199 )", "(0 - 1199)",
-        "(1850.00 - 1909.95)");
-    row("unknown GSM band", "GSM", "GSM 451", 0, "(259 - 293 )", "(259 - 293)",
-        "(460.60 - 467.40)");
-}
-
-void TestScreens::refStrings()
-{
-    QFETCH(QString, tech);
-    QFETCH(QString, band);
-    QFETCH(int, linkSel);
-    QFETCH(QString, chNum);
-    QFETCH(QString, chNumList);
-    QFETCH(QString, freqList);
-
-    LogCapture log;
-    QCOMPARE(G_CHSTD.GetChNumRefString(tech, band, linkSel), chNum);
-    QCOMPARE(G_CHSTD.GetChNumRefString_List(tech, band, linkSel), chNumList);
-    QCOMPARE(G_CHSTD.GetFreqRefString_List(tech, band, linkSel), freqList);
-    QVERIFY(log.all().isEmpty());
-}
-
-void TestScreens::refStringsOwnBands_data()
-{
-    QTest::addColumn<QString>("band");
-    QTest::addColumn<QString>("chNum");
-    QTest::addColumn<QString>("chNumList");
-    QTest::addColumn<QString>("freqList");
-
-    QTest::newRow("no records") << "Empty" << ")" << QString() << QString();
-    QTest::newRow("three records, one range")
-        << "Three" << "(1 - 2 )" << "(1 - 2)" << "(100.20 - 100.40)";
-    QStringList freqs;
-    for (int k = 0; k < 12; ++k)
-        freqs << QStringLiteral("(%1.00 - %2.00)").arg(100 + 4 * k).arg(101 + 4 * k);
-    QTest::newRow("twelve ranges, no limit")
-        << "Many"
-        << "(0 - 5 /20 - 25 /40 - 45 /60 - 65 /80 - 85 /100 - 105 /120 - 125 /140 - 145 "
-           "/160 - 165 /180 - 185 /200 - 205 /220 - 225 )"
-        << "(0 - 5)\n(20 - 25)\n(40 - 45)\n(60 - 65)\n(80 - 85)\n(100 - 105)\n(120 - 125)\n"
-           "(140 - 145)\n(160 - 165)\n(180 - 185)\n(200 - 205)\n(220 - 225)"
-        << freqs.join(QLatin1Char('\n'));
-}
-
-void TestScreens::refStringsOwnBands()
-{
-    QFETCH(QString, band);
-    QFETCH(QString, chNum);
-    QFETCH(QString, chNumList);
-    QFETCH(QString, freqList);
-
-    auto store = std::make_unique<ChBandStore>();
-    const QString gsm = QStringLiteral("GSM");
-    const auto f = &ChBandStore::chstdGetGSM_900; // base + ch x 0.2
-    store->SetBandInfo(gsm, QStringLiteral("Three"), 1, 2, 100.0, 101.0, 100.0, 1, 1, f, false);
-    store->SetBandInfo(gsm, QStringLiteral("Three"), 3, 4, 200.0, 201.0, 200.0, 1, 0, f, false);
-    store->SetBandInfo(gsm, QStringLiteral("Three"), 5, 6, 100.0, 101.0, 100.0, 1, 1, f, false);
-    for (int i = 0; i < 24; ++i) // uplink and downlink alternate
-        store->SetBandInfo(gsm, QStringLiteral("Many"), 10 * i, 10 * i + 5, 100.0, 200.0,
-                           i % 2 ? 200.0 : 100.0, 1, i % 2 ? 0 : 1, f, false);
-    // A band slot that exists but holds no record.
-    ChTechnology &t = store->Technologies[1];
-    t.BandIndexMap.insert(QStringLiteral("Empty"), t.NumBand++);
-
-    LogCapture log;
-    QCOMPARE(store->GetChNumRefString(gsm, band, 1), chNum);
-    QCOMPARE(store->GetChNumRefString_List(gsm, band, 1), chNumList);
-    QCOMPARE(store->GetFreqRefString_List(gsm, band, 1), freqList);
-    QVERIFY(log.all().isEmpty());
-}
-
-void TestScreens::bandListByMode_data()
-{
-    QTest::addColumn<int>("mode");
-    QTest::addColumn<QStringList>("techs");
-
-    const QStringList all = techList("CDMA GSM LTE-FDD LTE-TDD TD-SCDMA WCDMA WIMAX");
-    for (int mode : {1, 4, 16, 17, 23})
-        QTest::addRow("mode %d", mode) << mode << all;
-    QTest::addRow("mode 6") << 6 << techList("GSM");
-    QTest::addRow("mode 8") << 8 << techList("WCDMA");
-    QTest::addRow("mode 9") << 9 << techList("TD-SCDMA");
-    QTest::addRow("mode 10") << 10 << techList("CDMA");
-    QTest::addRow("mode 12") << 12 << techList("CDMA");
-    QTest::addRow("mode 11") << 11 << techList("WIMAX");
-    QTest::addRow("mode 13") << 13 << techList("LTE-FDD");
-    QTest::addRow("mode 14") << 14 << techList("LTE-TDD");
-    for (int mode : {20, 22})
-        QTest::addRow("mode %d", mode) << mode << techList("LTE-FDD LTE-TDD WCDMA");
-    for (int mode : {2, 3, 5, 7, 15, 18, 19, 21, 0, 24, -1, 100, 701, INT_MIN, INT_MAX})
-        QTest::addRow("mode %d", mode) << mode << QStringList();
-}
-
-// Checks the technology runs against known band counts and first and last
-// band names, and that every row's range text belongs to its own band.
-void TestScreens::bandListByMode()
-{
-    QFETCH(int, mode);
-    QFETCH(QStringList, techs);
-
-    LogCapture log;
-    for (const int linkSel : {1, 0}) {
-        const stCHList list = ChStd::GetBandListByMode(mode, 0, linkSel);
-        QVERIFY(list.freqRangeList.isEmpty());
-        QCOMPARE(list.bandList.size(), list.techList.size());
-        QCOMPARE(list.chRangeList.size(), list.techList.size());
-
-        int row = 0;
-        for (const QString &tech : techs) {
-            const TechBands known = knownTechnologies().value(tech);
-            QVERIFY2(row + known.count <= list.techList.size(), qPrintable(tech));
-            for (int i = row; i < row + known.count; ++i)
-                QCOMPARE(list.techList.at(i), tech);
-            QCOMPARE(list.bandList.at(row), QString::fromLatin1(known.first));
-            QCOMPARE(list.bandList.at(row + known.count - 1), QString::fromLatin1(known.last));
-            row += known.count;
-        }
-        QCOMPARE(list.techList.size(), row);
-        for (int i = 0; i < row; ++i)
-            QCOMPARE(list.chRangeList.at(i),
-                     G_CHSTD.GetChNumRefString_List(list.techList.at(i), list.bandList.at(i),
-                                                    linkSel));
-
-        // The second argument is never read.
-        for (const int unused : {1, -7, INT_MAX}) {
-            const stCHList other = ChStd::GetBandListByMode(mode, unused, linkSel);
-            QCOMPARE(other.techList, list.techList);
-            QCOMPARE(other.bandList, list.bandList);
-            QCOMPARE(other.chRangeList, list.chRangeList);
-            QVERIFY(other.freqRangeList.isEmpty());
-        }
-    }
-    QVERIFY(log.all().isEmpty());
-}
-
-void TestScreens::setBandListColumns_data()
-{
-    QTest::addColumn<QString>("tech");
-    QTest::addColumn<QString>("shownTech");
-    QTest::addColumn<int>("row");
-    QTest::addColumn<QString>("band");
-    QTest::addColumn<QString>("chRange");
-    QTest::addColumn<QString>("freqRange");
-
-    QTest::newRow("GSM") << "GSM" << "GSM" << 2 << "GSM 850" << "(128 - 251)"
-                         << "(824.20 - 848.80)";
-    // No mode shows 5G NR, but the setters do.
-    QTest::newRow("5G NR global") << "5G NR" << "5G NR" << 0 << "Band Global" << " " << " ";
-    QTest::newRow("5G NR n1") << "5G NR" << "5G NR" << 1 << "Band n1 (2100)"
-                              << "(384000 - 396000)" << "(1920.00 - 1980.00)";
-    // An unknown technology lists CDMA's bands but keeps its own name.
-    QTest::newRow("unknown technology") << "Foo" << "CDMA" << 0 << "Band 0 (800)"
-                                        << "(1 - 799)\n(991 - 1023)"
-                                        << "(825.03 - 848.97)\n(824.04 - 825.00)";
-}
-
-void TestScreens::setBandListColumns()
-{
-    QFETCH(QString, tech);
-    QFETCH(QString, shownTech);
-    QFETCH(int, row);
-    QFETCH(QString, band);
-    QFETCH(QString, chRange);
-    QFETCH(QString, freqRange);
-
-    const int count = knownTechnologies().value(shownTech).count;
-    const QString x = QStringLiteral("x"); // a row already present stays first
-    stCHList list{{x}, {x}, {x}, {x}};
-
-    LogCapture log;
-    ChStd::SetBandListName(tech, list);
-    QCOMPARE(list.bandList.size(), 1 + count);
-    QCOMPARE(list.techList.size() + list.chRangeList.size() + list.freqRangeList.size(), 3);
-    ChStd::SetBandListRange(tech, 1, list);
-    QVERIFY(log.all().isEmpty());
-
-    for (const QList<QString> *column :
-         {&list.techList, &list.bandList, &list.chRangeList, &list.freqRangeList}) {
-        QCOMPARE(column->size(), 1 + count);
-        QCOMPARE(column->first(), x);
-    }
-    QCOMPARE(list.techList.count(tech), count);
-    QCOMPARE(list.bandList.at(1 + row), band);
-    QCOMPARE(list.chRangeList.at(1 + row), chRange);
-    QCOMPARE(list.freqRangeList.at(1 + row), freqRange);
-}
-
-QTEST_GUILESS_MAIN(TestScreens)
+QTEST_APPLESS_MAIN(TestScreens)
 #include "tst_screens.moc"
