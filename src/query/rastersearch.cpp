@@ -157,8 +157,12 @@ NearestChannel nearestChannel(const stSubBand &r, double freqMHz)
             best.link = r.Link;
         }
     };
+    // From an infinite or NaN frequency every offset is infinite or NaN, so
+    // no channel is ever nearer than the bound: nothing to walk.
+    if (!std::isfinite(freqMHz))
+        return best;
     const FormulaTraits *traits = monotonicTraits(r);
-    if (!traits || !std::isfinite(freqMHz)) {
+    if (!traits) {
         for (qint64 ch = start; ch <= stop; ++ch)
             consider(ch, freqAt(r, ch) - freqMHz);
         return best;
