@@ -11,19 +11,6 @@
 
 namespace {
 
-bool sameHits(const QList<ChInfo> &a, const QList<ChInfo> &b)
-{
-    if (a.size() != b.size())
-        return false;
-    for (int i = 0; i < a.size(); ++i) {
-        if (a[i].techName != b[i].techName || a[i].bandName != b[i].bandName
-            || a[i].linkDirection != b[i].linkDirection || a[i].channelNo != b[i].channelNo
-            || fuzz::bitsOf(a[i].freqOffset) != fuzz::bitsOf(b[i].freqOffset))
-            return false;
-    }
-    return true;
-}
-
 // Registers what the input asks for. False when a record has no formula,
 // which the literal walk cannot follow.
 bool fill(ChBandStore &store, fuzz::Input &in)
@@ -85,7 +72,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
         switch (in.pick(3)) {
         case 0: {
             const QList<ChInfo> hits = s.GetChInfoFromFreq(mhz);
-            FUZZ_CHECK(!comparable || sameHits(hits, literal::chInfoFromFreq(s, mhz)));
+            FUZZ_CHECK(!comparable || literal::sameHits(hits, literal::chInfoFromFreq(s, mhz)));
             break;
         }
         case 1: {

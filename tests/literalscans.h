@@ -13,6 +13,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstring>
 #include <limits>
 
 namespace literal {
@@ -122,6 +123,21 @@ inline QList<int> availableChannels(const ChBandStore &store, const QString &tec
         break;
     }
     return channels;
+}
+
+// The same hits in the same order, offsets equal to the last bit.
+inline bool sameHits(const QList<ChInfo> &a, const QList<ChInfo> &b)
+{
+    if (a.size() != b.size())
+        return false;
+    for (int i = 0; i < a.size(); ++i) {
+        if (a[i].techName != b[i].techName || a[i].bandName != b[i].bandName
+            || a[i].linkDirection != b[i].linkDirection || a[i].channelNo != b[i].channelNo
+            || a[i].reserved != b[i].reserved
+            || std::memcmp(&a[i].freqOffset, &b[i].freqOffset, sizeof(double)) != 0)
+            return false;
+    }
+    return true;
 }
 
 } // namespace literal

@@ -59,11 +59,6 @@ QList<double> probesOf(const stSubBand &r)
     return probes;
 }
 
-bool sameBits(double a, double b)
-{
-    return std::memcmp(&a, &b, sizeof a) == 0;
-}
-
 QString describe(const QList<ChInfo> &hits)
 {
     QStringList rows;
@@ -74,19 +69,6 @@ QString describe(const QList<ChInfo> &hits)
                     .arg(h.channelNo)
                     .arg(h.freqOffset, 0, 'g', 17);
     return rows.join(QLatin1String("; "));
-}
-
-bool sameHits(const QList<ChInfo> &a, const QList<ChInfo> &b)
-{
-    if (a.size() != b.size())
-        return false;
-    for (int i = 0; i < a.size(); ++i) {
-        if (a[i].techName != b[i].techName || a[i].bandName != b[i].bandName
-            || a[i].linkDirection != b[i].linkDirection || a[i].channelNo != b[i].channelNo
-            || !sameBits(a[i].freqOffset, b[i].freqOffset) || a[i].reserved != b[i].reserved)
-            return false;
-    }
-    return true;
 }
 
 void silentHandler(QtMsgType, const QMessageLogContext &, const QString &) {}
@@ -154,7 +136,7 @@ private slots:
                 seen.insert(bits);
                 const QList<ChInfo> expected = literal::chInfoFromFreq(G_CHSTD, f);
                 const QList<ChInfo> actual = G_CHSTD.GetChInfoFromFreq(f);
-                if (!sameHits(actual, expected))
+                if (!literal::sameHits(actual, expected))
                     QFAIL(qPrintable(QStringLiteral("at %1:\n  got  %2\n  walk %3")
                                          .arg(f, 0, 'g', 17)
                                          .arg(describe(actual), describe(expected))));
@@ -224,7 +206,7 @@ private slots:
                 QCOMPARE(store.GetAvailableChannels(gsm + QLatin1String(" - ") + name, QString(), f, f + 1.0),
                          literal::availableChannels(store, gsm, name, 1, f, f + 1.0));
                 const QList<ChInfo> expected = literal::chInfoFromFreq(store, f);
-                QVERIFY2(sameHits(store.GetChInfoFromFreq(f), expected), qPrintable(name));
+                QVERIFY2(literal::sameHits(store.GetChInfoFromFreq(f), expected), qPrintable(name));
             }
         }
     }
