@@ -239,6 +239,10 @@ private:
     int StrictEnumerator(const QString &tech, const QString &band) const;
     // The names behind an enumerator, or false after a warning.
     bool NamesOfEnumerator(int code, QString *tech, QString *band) const;
+    // A query by enumerator: the name form's answer for the code's names, or
+    // failure after NamesOfEnumerator's warning.
+    template <typename Result, typename Query>
+    Result AnswerForEnumerator(int code, Result failure, Query query) const;
 };
 
 #endif

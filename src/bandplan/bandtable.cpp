@@ -1,13 +1,14 @@
-#include "store/techslots.h"
-
+// The band plan: every sub-band record in registration order, and its registration.
 #include <saiskuko/chbandstore.h>
+
+#include "store/technologies.h"
 
 namespace {
 
 // One registration of the band plan: the arguments of one SetBandInfo call.
 struct BandRow
 {
-    int tech; // technology slot, see techslots.h
+    int tech; // technology slot, see technologies.h
     const char *band;
     int startChannelNo;
     int stopChannelNo;
@@ -642,7 +643,7 @@ const BandRow kBandTable[] = {
 void ChBandStore::MakeBandInfo()
 {
     for (const BandRow &row : kBandTable) {
-        SetBandInfo(QString::fromLatin1(kTechNames[row.tech]), QString::fromLatin1(row.band),
+        SetBandInfo(techName(row.tech), QString::fromLatin1(row.band),
                     row.startChannelNo, row.stopChannelNo, row.startFreq, row.stopFreq,
                     row.baseFreq, row.subBandParam, row.link, row.func, row.uplinkOnly);
     }

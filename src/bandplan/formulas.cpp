@@ -1,3 +1,4 @@
+// The channel number formulas and their growth traits, expanded from one list.
 #include <saiskuko/chbandstore.h>
 
 #include "bandplan/formulalist.h"

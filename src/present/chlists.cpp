@@ -1,4 +1,7 @@
+// Band tables for the instrument's screens: by mode, or a technology at a time.
 #include <saiskuko/chstd.h>
+
+#include "store/technologies.h"
 
 #include <QtCore/QStringList>
 
@@ -6,35 +9,38 @@ namespace {
 
 // The technologies whose bands an instrument mode's table shows, in order.
 // 5G NR belongs to no mode.
-QStringList technologiesOfMode(int mode)
+QList<int> techSlotsOfMode(int mode)
 {
-    const QStringList all = {
-        QStringLiteral("CDMA"),     QStringLiteral("GSM"),   QStringLiteral("LTE-FDD"),
-        QStringLiteral("LTE-TDD"),  QStringLiteral("TD-SCDMA"), QStringLiteral("WCDMA"),
-        QStringLiteral("WIMAX"),
-    };
     switch (mode) {
     case 1: case 4: case 16: case 17: case 23:
-        return all;
+        return {SlotCdma, SlotGsm, SlotLteFdd, SlotLteTdd, SlotTdScdma, SlotWcdma, SlotWimax};
     case 6:
-        return {QStringLiteral("GSM")};
+        return {SlotGsm};
     case 8:
-        return {QStringLiteral("WCDMA")};
+        return {SlotWcdma};
     case 9:
-        return {QStringLiteral("TD-SCDMA")};
+        return {SlotTdScdma};
     case 10: case 12:
-        return {QStringLiteral("CDMA")};
+        return {SlotCdma};
     case 11:
-        return {QStringLiteral("WIMAX")};
+        return {SlotWimax};
     case 13:
-        return {QStringLiteral("LTE-FDD")};
+        return {SlotLteFdd};
     case 14:
-        return {QStringLiteral("LTE-TDD")};
+        return {SlotLteTdd};
     case 20: case 22:
-        return {QStringLiteral("LTE-FDD"), QStringLiteral("LTE-TDD"), QStringLiteral("WCDMA")};
+        return {SlotLteFdd, SlotLteTdd, SlotWcdma};
     default:
         return {};
     }
+}
+
+QStringList technologiesOfMode(int mode)
+{
+    QStringList names;
+    for (int slot : techSlotsOfMode(mode))
+        names.append(techName(slot));
+    return names;
 }
 
 } // namespace

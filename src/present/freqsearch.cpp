@@ -1,13 +1,66 @@
+// Frequency search: every band and record that holds a frequency, nearest channel first.
 #include <saiskuko/chbandstore.h>
 
-#include "query/rastersearch.h"
-#include "store/bandaccess.h"
-#include "store/standardtext.h"
-
-#include <QtCore/QDebug>
+#include "bandplan/channelsearch.h"
+#include "store/recordrules.h"
 
 #include <algorithm>
 #include <cmath>
+
+namespace {
+
+// The record's channel nearest to freqMHz: the lowest of equally near ones,
+// and none (channel -1, offset 2e9) when no channel is nearer than 2e9 MHz.
+struct NearestChannel
+{
+    int channel = -1;
+    int link = -1;
+    double offset = 2000000000.0; // channel frequency minus freqMHz
+};
+
+NearestChannel nearestChannel(const stSubBand &r, double freqMHz)
+{
+    NearestChannel best;
+    const qint64 start = r.StartChannelNo;
+    const qint64 stop = r.StopChannelNo;
+    auto consider = [&](qint64 ch, double offset) {
+        if (std::abs(offset) < std::abs(best.offset)) {
+            best.offset = offset;
+            best.channel = static_cast<int>(ch);
+            best.link = r.Link;
+        }
+    };
+    // From an infinite or NaN frequency every offset is infinite or NaN, so
+    // no channel is ever nearer than the bound: nothing to walk.
+    if (!std::isfinite(freqMHz))
+        return best;
+    const FormulaTraits *traits = monotonicTraits(r);
+    if (!traits) {
+        for (qint64 ch = start; ch <= stop; ++ch)
+            consider(ch, freqAt(r, ch) - freqMHz);
+        return best;
+    }
+    if (start > stop)
+        return best;
+    // Offsets grow with the channel, so |offset| falls until the first
+    // channel at or above freqMHz and rises from there. The nearest is that
+    // channel or the first channel of the plateau just below it; on a tie the
+    // lower one wins, as in a walk that only takes strictly better channels.
+    auto offsetAt = [&](qint64 ch) { return freqAt(r, ch) - freqMHz; };
+    const qint64 above = firstTrueNear(start, stop, estimateChannel(*traits, r, freqMHz),
+                                       [&](qint64 ch) { return offsetAt(ch) >= 0.0; });
+    if (above > start) {
+        const double below = offsetAt(above - 1);
+        consider(firstTrueNear(start, above - 1, above - 1,
+                               [&](qint64 ch) { return offsetAt(ch) >= below; }),
+                 below);
+    }
+    if (above <= stop)
+        consider(above, offsetAt(above));
+    return best;
+}
+
+} // namespace
 
 QList<ChInfo> ChBandStore::GetChInfoFromFreq(double freqMHz) const
 {
@@ -40,26 +93,4 @@ QList<ChInfo> ChBandStore::GetChInfoFromFreq(double freqMHz) const
         return std::abs(a.freqOffset) < std::abs(b.freqOffset);
     });
     return hits;
-}
-
-QList<int> ChBandStore::GetAvailableChannels(QString channelStandard, QString direction,
-                                             double lowMHz, double highMHz) const
-{
-    QString tech, band;
-    if (!splitStandardOrWarn(channelStandard, &tech, &band))
-        return QList<int>();
-
-    const ChBand &b = BandOf(tech, band);
-    const int link = linkOfDirection(direction);
-    QList<int> channels;
-    // Only the band's first record of the direction is offered.
-    for (int i = 0; i < recordCount(b); ++i) {
-        const stSubBand &r = b.SubBands[i];
-        if (r.Link == link) {
-            channels = channelsInWindow(r, lowMHz, highMHz);
-            break;
-        }
-    }
-    qDebug() << "AvailableChannels : " << channels.size();
-    return channels;
 }

@@ -1,23 +1,19 @@
+// Reference strings: the channel and frequency ranges a screen shows beside a band.
 #include <saiskuko/chbandstore.h>
 
-#include "store/bandaccess.h"
-#include "store/techslots.h"
+#include "store/recordrules.h"
+#include "store/technologies.h"
 
 #include <QtCore/QLatin1String>
 #include <QtCore/QStringList>
 
 namespace {
 
-// LTE-FDD, WCDMA and 5G NR show one record chosen by the link selector; the
-// other technologies show the first record of each consecutive pair.
+// Paired technologies show one record chosen by the link selector; the
+// others show the first record of each consecutive pair.
 bool isPairedTechnology(int techSlot)
 {
-    return techSlot == SlotLteFdd || techSlot == SlotWcdma || techSlot == SlotNr;
-}
-
-bool isGlobalBandName(const QString &band)
-{
-    return band == QLatin1String("Band Global");
+    return kTechnologies[techSlot].pairedRefStrings;
 }
 
 // The records a text shows, in order.

@@ -1,8 +1,8 @@
+// Band limits by name: edges, first and last channels, record counts, bandwidths.
 #include <saiskuko/chbandstore.h>
 
-#include "store/bandaccess.h"
-
-#include <QtCore/QLatin1String>
+#include "store/recordrules.h"
+#include "store/technologies.h"
 
 namespace {
 
@@ -104,17 +104,9 @@ bool ChBandStore::IsUplinkOnly(QString tech, QString band) const
 
 double ChBandStore::GetDefaultIntBW(QString tech) const
 {
-    static const struct {
-        const char *tech;
-        double hertz;
-    } kBandwidths[] = {
-        {"CDMA", 1230000.0},     {"GSM", 300000.0},       {"WCDMA", 3840000.0},
-        {"LTE-FDD", 10000000.0}, {"LTE-TDD", 10000000.0}, {"TD-SCDMA", 1280000.0},
-        {"WIMAX", 10000000.0},
-    };
-    for (const auto &entry : kBandwidths) {
-        if (tech == QLatin1String(entry.tech))
-            return entry.hertz;
+    for (const TechnologyFacts &facts : kTechnologies) {
+        if (facts.defaultIntBwHz > 0.0 && tech == QLatin1String(facts.name))
+            return facts.defaultIntBwHz;
     }
-    return 1000000.0;
+    return kFallbackIntBwHz;
 }

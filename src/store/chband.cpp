@@ -1,4 +1,7 @@
+// Bands and technology slots: their names and the records they hold.
 #include <saiskuko/chband.h>
+
+#include "store/technologies.h"
 
 ChBand::ChBand(QObject *parent)
     : QObject(parent), IsGlobal(false), SubBands(), NumSubBand(0)
@@ -14,7 +17,7 @@ ChBand::~ChBand() = default;
 void ChBand::SetBandName(QString name)
 {
     BandName = name;
-    if (BandName == QLatin1String("Band Global"))
+    if (isGlobalBandName(BandName))
         IsGlobal = true;
 }
 

@@ -1,3 +1,4 @@
+// The global store G_CHSTD and its entry point.
 #include <saiskuko/chstd.h>
 
 // Built by the library's static initialisation; destroyed at unload.

@@ -1,5 +1,8 @@
+// Channel standard enumerators: codes to names and back, band counts and lists.
 #include <saiskuko/chbandstore.h>
 
+#include "store/diagnostics.h"
+#include "store/enumeratorquery.h"
 #include "store/standardtext.h"
 
 namespace {
@@ -33,13 +36,13 @@ int ChBandStore::StrictEnumerator(const QString &tech, const QString &band) cons
 {
     const auto techIt = TechIndexMap.constFind(tech);
     if (techIt == TechIndexMap.constEnd() || techIt.value() < 0 || techIt.value() >= MaxTechnologies) {
-        warnInvalid(kTechNameInvalid, tech);
+        warnInvalid(Invalid::TechName, tech);
         return -1;
     }
     const QMap<QString, int> &bands = Technologies[techIt.value()].BandIndexMap;
     const auto bandIt = bands.constFind(band);
     if (bandIt == bands.constEnd() || bandIt.value() < 0) {
-        warnInvalid(kBandNameInvalid, band);
+        warnInvalid(Invalid::BandName, band);
         return -1;
     }
     return 100 * techIt.value() + bandIt.value();
@@ -68,11 +71,11 @@ bool ChBandStore::NamesOfEnumerator(int code, QString *tech, QString *band) cons
 {
     const QString standard = GetEnumulator(code);
     if (standard.isEmpty()) {
-        warnInvalid(kStandardEnumInvalid, code);
+        warnInvalid(Invalid::StandardEnum, code);
         return false;
     }
     if (!splitStandard(standard, tech, band)) {
-        warnInvalid(kStandardInvalid, standard);
+        warnInvalid(Invalid::Standard, standard);
         return false;
     }
     return true;
@@ -80,26 +83,22 @@ bool ChBandStore::NamesOfEnumerator(int code, QString *tech, QString *band) cons
 
 int ChBandStore::GetTech(int code) const
 {
-    QString tech, band;
-    if (!NamesOfEnumerator(code, &tech, &band))
-        return -1;
-    return LookupTechSlot(tech);
+    return AnswerForEnumerator(code, -1, [&](const QString &tech, const QString &) {
+        return LookupTechSlot(tech);
+    });
 }
 
 int ChBandStore::GetBand(int code) const
 {
-    QString tech, band;
-    if (!NamesOfEnumerator(code, &tech, &band))
-        return -1;
-    return LookupBandSlot(LookupTechSlot(tech), band);
+    return AnswerForEnumerator(code, -1, [&](const QString &tech, const QString &band) {
+        return LookupBandSlot(LookupTechSlot(tech), band);
+    });
 }
 
 QString ChBandStore::GetBandName(int code) const
 {
-    QString tech, band;
-    if (!NamesOfEnumerator(code, &tech, &band))
-        return QStringLiteral("None");
-    return band;
+    return AnswerForEnumerator(code, QStringLiteral("None"),
+                               [](const QString &, const QString &band) { return band; });
 }
 
 int ChBandStore::GetNumBand(QString tech) const

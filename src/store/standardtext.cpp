@@ -1,4 +1,7 @@
+// Channel standard texts ("TECH - BAND") and direction texts.
 #include "store/standardtext.h"
+
+#include "store/diagnostics.h"
 
 #include <QtCore/QLatin1String>
 
@@ -22,7 +25,7 @@ bool splitStandardOrWarn(const QString &standard, QString *tech, QString *band)
 {
     if (splitStandard(standard, tech, band))
         return true;
-    warnInvalid(kStandardInvalid, standard);
+    warnInvalid(Invalid::Standard, standard);
     return false;
 }
 

@@ -1,26 +1,23 @@
+// Channel to frequency: conversion, existence of a channel, and the end of its range.
 #include <saiskuko/chbandstore.h>
 
-#include "store/bandaccess.h"
+#include "store/recordrules.h"
 #include "store/standardtext.h"
+#include "store/technologies.h"
 
 double ChBandStore::GetFreq(QString tech, QString band, int link, int channel) const
 {
     const ChBand &b = BandOf(tech, band);
-    // Time-division bands share one range in both directions, so there every
-    // record is eligible whatever its link. Asked once, only when needed.
+    // Whether the band is time-division depends on its name only: asked once,
+    // and only when a record of the other link holds the channel.
     int timeDivision = -1;
     for (int i = 0; i < recordCount(b); ++i) {
         const stSubBand &r = b.SubBands[i];
-        bool eligible = r.Link == link;
-        if (!eligible) {
-            if (timeDivision < 0) {
-                timeDivision = CheckChannelStandardIsTDS(b.BandName)
-                               || CheckChannelStandardIsLTETDD(b.BandName)
-                               || CheckChannelStandardIsWiMax(b.BandName);
-            }
-            eligible = timeDivision || r.UplinkOnly;
-        }
-        if (eligible && holdsChannel(r, channel))
+        if (!holdsChannel(r, channel))
+            continue;
+        if (!servesLink(r, link) && timeDivision < 0)
+            timeDivision = isTimeDivisionBand(b.BandName);
+        if (servesLinkOfBand(r, link, timeDivision > 0))
             return recordFreq(r, channel);
     }
     return -1.0;
@@ -28,10 +25,9 @@ double ChBandStore::GetFreq(QString tech, QString band, int link, int channel) c
 
 double ChBandStore::GetFreq(QString standard, int link, int channel) const
 {
-    QString tech, band;
-    if (!splitStandardOrWarn(standard, &tech, &band))
-        return -1.0;
-    return GetFreq(tech, band, link, channel);
+    return answerForStandard(standard, -1.0, [&](const QString &tech, const QString &band) {
+        return GetFreq(tech, band, link, channel);
+    });
 }
 
 double ChBandStore::GetFreq(QString standard, QString direction, int channel) const
@@ -43,9 +39,8 @@ double ChBandStore::GetFreqNoLimit(QString tech, QString band, int link, int cha
 {
     const ChBand &b = BandOf(tech, band);
     for (int i = 0; i < recordCount(b); ++i) {
-        const stSubBand &r = b.SubBands[i];
-        if (r.Link == link || r.UplinkOnly)
-            return recordFreq(r, channel);
+        if (servesLink(b.SubBands[i], link))
+            return recordFreq(b.SubBands[i], channel);
     }
     return -1.0;
 }

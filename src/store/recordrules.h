@@ -1,7 +1,12 @@
-#ifndef SAISKUKO_BANDACCESS_H
-#define SAISKUKO_BANDACCESS_H
+#ifndef SAISKUKO_RECORDRULES_H
+#define SAISKUKO_RECORDRULES_H
+
+// The rules about sub-band records that the queries apply, written once for
+// the library and for the program and tools that must agree with it.
 
 #include <saiskuko/chband.h>
+
+#include "store/technologies.h"
 
 #include <limits>
 
@@ -32,6 +37,20 @@ inline bool holdsChannel(const stSubBand &record, int channel)
 inline bool isPlaceholder(const stSubBand &record)
 {
     return record.StartFreq == 1.0;
+}
+
+// A record answers for a link when it is of that link or flagged uplink-only
+// (the flag marks records that serve both directions).
+inline bool servesLink(const stSubBand &record, int link)
+{
+    return record.Link == link || record.UplinkOnly;
+}
+
+// A channel-to-frequency query also takes every record of a time-division
+// band, whose directions share one channel range.
+inline bool servesLinkOfBand(const stSubBand &record, int link, bool timeDivisionBand)
+{
+    return servesLink(record, link) || timeDivisionBand;
 }
 
 #endif
