@@ -2,7 +2,8 @@
 // name and enumerator conversions. Prints the literal/library ratio of every
 // pair measured in this run.
 
-#include "literalscans.h"
+#include "literalwalks.h"
+#include "messagecapture.h"
 
 #include <saiskuko/saiskuko.h>
 
@@ -25,15 +26,6 @@ const QString kBand1 = QStringLiteral("Band 1 (2100)");
 constexpr double kN77Freq = 3750.0;
 constexpr double kBand1Freq = 2169.9;
 
-// The library's failed conversions print a line; none of these fail, but keep
-// stdout clean for the report whatever happens.
-struct MuteStdout
-{
-    std::ostringstream sink;
-    std::streambuf *old = std::cout.rdbuf(sink.rdbuf());
-    ~MuteStdout() { std::cout.rdbuf(old); }
-};
-
 void Literal_ChNumFromFreq_n77(benchmark::State &state)
 {
     for (auto _ : state)
@@ -41,7 +33,7 @@ void Literal_ChNumFromFreq_n77(benchmark::State &state)
 }
 void Library_ChNumFromFreq_n77(benchmark::State &state)
 {
-    MuteStdout mute;
+    QuietLibrary quiet; // keeps the report clean whatever the library writes
     for (auto _ : state)
         benchmark::DoNotOptimize(G_CHSTD.GetChNumFromFreq(kNr, kN77, 0, kN77Freq, -1));
 }
@@ -52,7 +44,7 @@ void Literal_ChNumFromFreq_LteBand1(benchmark::State &state)
 }
 void Library_ChNumFromFreq_LteBand1(benchmark::State &state)
 {
-    MuteStdout mute;
+    QuietLibrary quiet; // keeps the report clean whatever the library writes
     for (auto _ : state)
         benchmark::DoNotOptimize(G_CHSTD.GetChNumFromFreq(kLteFdd, kBand1, 0, kBand1Freq, -1));
 }
@@ -83,12 +75,10 @@ void Library_AvailableChannels(benchmark::State &state)
     const double width = state.range(0);
     const QString standard = kNr + QLatin1String(" - ") + kN77;
     const QString forward = QStringLiteral("Forward");
-    QtMessageHandler previous = qInstallMessageHandler([](QtMsgType, const QMessageLogContext &,
-                                                          const QString &) {});
+    QuietLibrary quiet;
     for (auto _ : state)
         benchmark::DoNotOptimize(
             G_CHSTD.GetAvailableChannels(standard, forward, 3750.0, 3750.0 + width));
-    qInstallMessageHandler(previous);
 }
 
 void GetFreq_ByNames(benchmark::State &state)

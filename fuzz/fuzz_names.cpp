@@ -3,7 +3,7 @@
 // the literal walk over every channel.
 #include "fuzzinput.h"
 
-#include "literalscans.h"
+#include "literalwalks.h"
 
 extern "C" int LLVMFuzzerInitialize(int *, char ***)
 {

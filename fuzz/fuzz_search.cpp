@@ -4,7 +4,7 @@
 // over every channel, and the store against its capacity.
 #include "fuzzinput.h"
 
-#include "literalscans.h"
+#include "literalwalks.h"
 
 #include <memory>
 #include <new>

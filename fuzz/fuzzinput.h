@@ -7,6 +7,8 @@
 
 #include <saiskuko/saiskuko.h>
 
+#include "messagecapture.h"
+
 #include <fuzzer/FuzzedDataProvider.h>
 
 #include <QtCore/QStringList>
@@ -60,18 +62,10 @@ inline const Known &known()
     return k;
 }
 
-// Drops everything written to it: the library's one console line stays cheap.
-struct NullBuf : std::streambuf
-{
-    int_type overflow(int_type c) override { return traits_type::not_eof(c); }
-};
-
 // The library logs every bad input; a fuzzer feeds little else.
 inline void silence()
 {
-    static NullBuf sink;
-    std::cout.rdbuf(&sink);
-    qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
+    static QuietLibrary quiet;
     known();
 }
 

@@ -124,7 +124,7 @@ void TestBadInput::answers_data()
                      hits.value(0).channelNo, own->GetFreq(gsm, none, 0, 3), own->GetFreqNoLimit(gsm, none, 0, 3),
                      own->GetChInfoFromFreq(kNaN).size(), own->GetStopChannelNo_InSample(gsm, none, 3, 0)});
     }, nums({INT_MIN * 0.2, 0, 11, INT_MIN, INT_MAX, 0, 1, INT_MAX, -1, kNaN, 0, 1}),
-        {str("D [ChStd]  Version :  1.0.1"), str("D AvailableChannels :  11")});
+        {str("D [ChStd]  Version :  " SAISKUKO_VERSION_STR), str("D AvailableChannels :  11")});
 }
 
 void TestBadInput::answers()

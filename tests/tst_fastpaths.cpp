@@ -1,7 +1,8 @@
 // The library finds channels by binary search; these tests hold it to the
 // literal walk over every channel, for every record of the band plan.
 
-#include "literalscans.h"
+#include "literalwalks.h"
+#include "messagecapture.h"
 
 #include <saiskuko/saiskuko.h>
 
@@ -10,10 +11,8 @@
 
 #include <cmath>
 #include <cstring>
-#include <iostream>
 #include <memory>
 #include <limits>
-#include <sstream>
 
 namespace {
 
@@ -71,8 +70,6 @@ QString describe(const QList<ChInfo> &hits)
     return rows.join(QLatin1String("; "));
 }
 
-void silentHandler(QtMsgType, const QMessageLogContext &, const QString &) {}
-
 } // namespace
 
 class FastPathsTest : public QObject
@@ -80,16 +77,8 @@ class FastPathsTest : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase()
-    {
-        qInstallMessageHandler(silentHandler);
-        m_oldCout = std::cout.rdbuf(m_sink.rdbuf());
-    }
-    void cleanupTestCase()
-    {
-        std::cout.rdbuf(m_oldCout);
-        qInstallMessageHandler(nullptr);
-    }
+    void initTestCase() { m_quiet = std::make_unique<QuietLibrary>(); }
+    void cleanupTestCase() { m_quiet.reset(); }
 
     void channelFromFrequencyMatchesTheWalk()
     {
@@ -212,8 +201,7 @@ private slots:
     }
 
 private:
-    std::ostringstream m_sink;
-    std::streambuf *m_oldCout = nullptr;
+    std::unique_ptr<QuietLibrary> m_quiet;
 };
 
 QTEST_GUILESS_MAIN(FastPathsTest)

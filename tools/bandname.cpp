@@ -1,3 +1,4 @@
+// Names the program accepts for technologies and bands, and the band facts its commands share.
 #include "bandname.h"
 
 #include "output.h"
@@ -38,20 +39,26 @@ QJsonObject BandRef::toJson() const
 
 namespace {
 
-// Short technology names. "lte" deliberately names both LTE technologies: the
-// band number tells them apart (1 to 32 and 65 up are FDD, 33 to 48 TDD).
-struct TechAlias
+// Short technology names by slot. "lte" deliberately names both LTE
+// technologies: the band number tells them apart (1 to 32 and 65 up are FDD,
+// 33 to 48 TDD).
+QStringList aliasesOfSlot(int slot)
 {
-    const char *tech;
-    QStringList aliases;
-};
-const TechAlias kTechAliases[] = {
-    {"LTE-FDD", {QStringLiteral("fdd"), QStringLiteral("lte")}},
-    {"LTE-TDD", {QStringLiteral("tdd"), QStringLiteral("lte")}},
-    {"TD-SCDMA", {QStringLiteral("tds")}},
-    {"WCDMA", {QStringLiteral("umts")}},
-    {"5G NR", {QStringLiteral("nr"), QStringLiteral("5g")}},
-};
+    switch (slot) {
+    case SlotLteFdd:
+        return {QStringLiteral("fdd"), QStringLiteral("lte")};
+    case SlotLteTdd:
+        return {QStringLiteral("tdd"), QStringLiteral("lte")};
+    case SlotTdScdma:
+        return {QStringLiteral("tds")};
+    case SlotWcdma:
+        return {QStringLiteral("umts")};
+    case SlotNr:
+        return {QStringLiteral("nr"), QStringLiteral("5g")};
+    default:
+        return {};
+    }
+}
 
 // Lower case without blanks, hyphens and underscores: "5G NR" -> "5gnr".
 QString squashTech(const QString &text)
@@ -138,11 +145,14 @@ QString quoted(const QString &text)
 
 QString techListText()
 {
-    QStringList names;
-    for (int t : techSlots())
+    QStringList names, aliases;
+    for (int t : techSlots()) {
         names << techName(t);
-    return names.join(QLatin1String(", "))
-           + QLatin1String(" (short forms: fdd, tdd, lte, tds, umts, nr, 5g)");
+        aliases << techAliases(t);
+    }
+    aliases.removeDuplicates();
+    return names.join(QLatin1String(", ")) + QLatin1String(" (short forms: ")
+           + aliases.join(QLatin1String(", ")) + QLatin1Char(')');
 }
 
 QString bandListText(const QList<int> &slotList)
@@ -221,19 +231,9 @@ QList<int> techSlots()
     return slotList;
 }
 
-QString techName(int slot)
-{
-    return store().Technologies[slot].TechName;
-}
-
 QStringList techAliases(int slot)
 {
-    const QString name = techName(slot);
-    for (const TechAlias &alias : kTechAliases) {
-        if (name == QLatin1String(alias.tech))
-            return alias.aliases;
-    }
-    return {};
+    return aliasesOfSlot(slot);
 }
 
 int resolveTech(const QString &text)
@@ -333,11 +333,6 @@ BandRef resolveBand(const QString &text)
                                    " (\"LTE-FDD - Band 1 (2100)\") or TECH:BAND (LTE:1, NR:n78)"));
 }
 
-bool isPlaceholder(const stSubBand &record)
-{
-    return record.StartFreq == 1.0;
-}
-
 QList<int> linksOf(const BandRef &band)
 {
     const ChBand &data = band.data();
@@ -358,22 +353,17 @@ QList<int> linksOf(const BandRef &band)
 
 bool channelFreq(const BandRef &band, int link, int channel, double *mhz)
 {
-    // GetFreq takes the first record that covers the channel and is eligible
-    // for the link (its own link, a time-division band, or an uplink-only
-    // record). If that record is a placeholder its "frequency" is meaningless.
-    ChBandStore &s = store();
+    // GetFreq takes the first record that holds the channel and serves the
+    // link. If that record is a placeholder its "frequency" is meaningless.
     const ChBand &data = band.data();
-    const bool timeDivision = s.CheckChannelStandardIsTDS(data.BandName)
-                              || s.CheckChannelStandardIsLTETDD(data.BandName)
-                              || s.CheckChannelStandardIsWiMax(data.BandName);
-    for (int i = 0; i < data.NumSubBand; ++i) {
+    const bool timeDivision = isTimeDivisionBand(data.BandName);
+    for (int i = 0; i < recordCount(data); ++i) {
         const stSubBand &r = data.SubBands[i];
-        const bool eligible = r.Link == link || timeDivision || r.UplinkOnly;
-        if (!eligible || channel < r.StartChannelNo || channel > r.StopChannelNo)
+        if (!servesLinkOfBand(r, link, timeDivision) || !holdsChannel(r, channel))
             continue;
         if (isPlaceholder(r))
             return false;
-        *mhz = s.GetFreq(band.techName(), band.bandName(), link, channel);
+        *mhz = store().GetFreq(band.techName(), band.bandName(), link, channel);
         return *mhz != -1.0;
     }
     return false;

@@ -3,6 +3,8 @@
 
 #include <saiskuko/saiskuko.h>
 
+#include "store/recordrules.h"
+
 #include <QtCore/QJsonObject>
 #include <QtCore/QList>
 #include <QtCore/QString>
@@ -25,9 +27,9 @@ struct BandRef
     QJsonObject toJson() const; // code, technology, band
 };
 
-// The technology slots in slot order, and the name of a slot.
+// The technology slots in slot order (techName() of store/technologies.h
+// names them).
 QList<int> techSlots();
-QString techName(int slot);
 QStringList techAliases(int slot); // short forms accepted besides the name
 
 // Strict resolution. Unknown or ambiguous names throw BadInput with a message
@@ -35,10 +37,6 @@ QStringList techAliases(int slot); // short forms accepted besides the name
 int resolveTech(const QString &text);
 BandRef resolveBand(const QString &text);
 BandRef bandByNames(const QString &tech, const QString &band); // names as registered
-
-// A record that stands in for a link a band does not have (channel 1 at
-// 1.0 MHz); every listing skips it.
-bool isPlaceholder(const stSubBand &record);
 
 // The links a band has real records for, uplink first.
 QList<int> linksOf(const BandRef &band);

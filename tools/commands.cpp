@@ -1,6 +1,8 @@
+// The program's commands: each turns its arguments into a query and its answer into text or JSON.
 #include "commands.h"
 
 #include "bandname.h"
+#include "messagecapture.h"
 
 #include <QtCore/QJsonArray>
 #include <QtCore/QMap>
@@ -8,8 +10,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <iostream>
-#include <sstream>
 #include <utility>
 
 namespace {
@@ -81,21 +81,6 @@ QString bandTitle(const BandRef &band)
     return band.standard() + QStringLiteral(" [%1]").arg(band.code());
 }
 
-// GetChNumFromFreq reports a miss on standard output; keep it off ours.
-class StandardOutputCapture
-{
-public:
-    StandardOutputCapture() : m_old(std::cout.rdbuf(m_buffer.rdbuf())) {}
-    ~StandardOutputCapture() { std::cout.rdbuf(m_old); }
-    StandardOutputCapture(const StandardOutputCapture &) = delete;
-    StandardOutputCapture &operator=(const StandardOutputCapture &) = delete;
-    QString text() const { return QString::fromStdString(m_buffer.str()); }
-
-private:
-    std::ostringstream m_buffer;
-    std::streambuf *m_old;
-};
-
 // The channel whose centre is mhz, or -1. The library matches only the exact
 // double its formula yields; a decimal typed by a person is the nearest double
 // to that decimal, which can differ from the formula's result in the last bits
@@ -109,7 +94,7 @@ int channelAt(const BandRef &band, int link, double mhz, int preferred)
     bool reachable = false;
     for (int i = 0; i < data.NumSubBand && !reachable; ++i) {
         const stSubBand &r = data.SubBands[i];
-        reachable = !isPlaceholder(r) && (r.Link == link || r.UplinkOnly)
+        reachable = !isPlaceholder(r) && servesLink(r, link)
                     && r.StartFreq - 1e-6 <= mhz && mhz <= r.StopFreq + 1e-6;
     }
     if (!reachable)
@@ -126,7 +111,7 @@ int channelAt(const BandRef &band, int link, double mhz, int preferred)
     for (int i = 0; i < tries.size(); ++i) {
         int channel = -1;
         {
-            StandardOutputCapture capture;
+            StandardOutputCapture capture; // the library reports a miss on standard output
             channel = store().GetChNumFromFreq(band.techName(), band.bandName(), link, tries[i],
                                                preferred);
             if (i == 0)

@@ -1,6 +1,8 @@
 #ifndef SAISKUKO_GLOBAL_H
 #define SAISKUKO_GLOBAL_H
 
+#include <saiskuko/saiskuko_version.h>
+
 #include <QtCore/qglobal.h>
 
 // The one export macro: everything public carries it, the rest stays hidden.
@@ -9,8 +11,5 @@
 #else
 #  define SAISKUKO_EXPORT Q_DECL_IMPORT
 #endif
-
-// Version of these headers; the loaded library announces its own at load.
-#define SAISKUKO_VERSION_STR "1.0.1"
 
 #endif

@@ -1,5 +1,7 @@
 // Runs the installed saiskuko program (path in SAISKUKO_CLI) on real queries.
 
+#include <saiskuko/saiskuko_version.h>
+
 #include <QtCore/QJsonArray>
 #include <QtCore/QJsonDocument>
 #include <QtCore/QJsonObject>
@@ -70,7 +72,7 @@ private slots:
         row("which, every overlapping band", "-q which 630000",
             "CODE  TECH   BAND                DIR  MHZ\n 723  5G NR  Band n77 (TD 3700)  DL   3450\n"
             " 724  5G NR  Band n78 (TD 3500)  DL   3450\n");
-        row("version", "-q --version", "saiskuko 1.0.1\n");
+        row("version", "-q --version", "saiskuko " SAISKUKO_VERSION_STR "\n");
     }
 
     void exactOutput()
@@ -127,7 +129,7 @@ private slots:
     {
         const Run loud = saiskuko("channel LTE:1 2140.05");
         QCOMPARE(loud.out, QString());
-        QVERIFY2(loud.err.contains(QLatin1String("Version :  1.0.1"))
+        QVERIFY2(loud.err.contains(QLatin1String("Version :  " SAISKUKO_VERSION_STR))
                      && loud.err.contains(QLatin1String("GetChNumFromFreq Not supported value : 2140.05")),
                  qPrintable(loud.err));
         QCOMPARE(saiskuko("--quiet channel LTE:1 2140.05").err.count(QLatin1Char('\n')), 1);

@@ -1,5 +1,5 @@
-#ifndef SAISKUKO_TEST_LITERALSCANS_H
-#define SAISKUKO_TEST_LITERALSCANS_H
+#ifndef SAISKUKO_SUPPORT_LITERALWALKS_H
+#define SAISKUKO_SUPPORT_LITERALWALKS_H
 
 // Reference implementations of the channel scans: every channel of a record
 // walked through its formula, exactly as the searches are defined. The
