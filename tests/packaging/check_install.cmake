@@ -2,14 +2,7 @@
 # and runs main.cpp against it twice, through find_package and through
 # pkg-config. Any failing step fails the test.
 
-function(run what)
-  execute_process(COMMAND ${ARGN} RESULT_VARIABLE rc OUTPUT_VARIABLE out ERROR_VARIABLE err)
-  if(NOT rc EQUAL 0)
-    message(FATAL_ERROR "${what} failed (${rc}):\n${out}${err}")
-  endif()
-  message(STATUS "${what}: ok\n${out}${err}")
-  set(OUTPUT "${out}" PARENT_SCOPE)
-endfunction()
+include(${CMAKE_CURRENT_LIST_DIR}/run.cmake)
 
 set(prefix ${WORK_DIR}/prefix)
 set(libdir ${prefix}/${LIBDIR})
