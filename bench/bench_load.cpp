@@ -14,7 +14,8 @@
 
 namespace {
 
-void silent(QtMsgType, const QMessageLogContext &, const QString &) {}
+void silent(QtMsgType, const QMessageLogContext &, const QString &)
+{}
 
 void *openLibrary()
 {

@@ -40,7 +40,8 @@ void Library_ChNumFromFreq_n77(benchmark::State &state)
 void Literal_ChNumFromFreq_LteBand1(benchmark::State &state)
 {
     for (auto _ : state)
-        benchmark::DoNotOptimize(literal::chNumFromFreq(G_CHSTD, kLteFdd, kBand1, 0, kBand1Freq, -1));
+        benchmark::DoNotOptimize(
+            literal::chNumFromFreq(G_CHSTD, kLteFdd, kBand1, 0, kBand1Freq, -1));
 }
 void Library_ChNumFromFreq_LteBand1(benchmark::State &state)
 {
@@ -116,14 +117,16 @@ public:
         for (const Run &run : runs) {
             if (run.run_type == Run::RT_Iteration && run.iterations > 0)
                 nanoseconds[run.benchmark_name()] =
-                    run.GetAdjustedRealTime() * 1e9 / benchmark::GetTimeUnitMultiplier(run.time_unit);
+                    run.GetAdjustedRealTime() * 1e9
+                    / benchmark::GetTimeUnitMultiplier(run.time_unit);
         }
         ConsoleReporter::ReportRuns(runs);
     }
 
     void printRatios() const
     {
-        std::printf("\n%-44s %14s %14s %10s\n", "literal walk / library", "walk", "library", "ratio");
+        std::printf("\n%-44s %14s %14s %10s\n", "literal walk / library", "walk", "library",
+                    "ratio");
         for (const auto &[name, walk] : nanoseconds) {
             if (name.rfind("Literal_", 0) != 0)
                 continue;

@@ -15,7 +15,8 @@ namespace {
 // which the literal walk cannot follow.
 bool fill(ChBandStore &store, fuzz::Input &in)
 {
-    static const QStringList few = {QStringLiteral("A"), QStringLiteral("B"), QStringLiteral("Band Global")};
+    static const QStringList few = {QStringLiteral("A"), QStringLiteral("B"),
+                                    QStringLiteral("Band Global")};
     bool formulas = true;
     for (int n = in.pick(8); n >= 0 && in.more(); --n) {
         const QString tech = in.tech(), band = in.flag() ? in.band() : in.name(few);
@@ -24,19 +25,24 @@ bool fill(ChBandStore &store, fuzz::Input &in)
         const bool distinct = in.flag();
         const int start = in.channel();
         // Walks over a record are linear by design: keep widths realistic.
-        const int stop = int(qBound<qint64>(INT_MIN, qint64(start) + in.integer({-1, 0, 1, 599, 19999}) % 20000, INT_MAX));
-        const double low = in.freq(), high = in.flag() ? in.freq() : low + in.pick(100), base = in.flag() ? low : in.freq();
-        const ChFreqFunc func = in.pick(32) ? fuzz::known().formulas[in.pick(int(fuzz::known().formulas.size()))] : nullptr;
+        const int stop = int(qBound<qint64>(
+            INT_MIN, qint64(start) + in.integer({-1, 0, 1, 599, 19999}) % 20000, INT_MAX));
+        const double low = in.freq(), high = in.flag() ? in.freq() : low + in.pick(100),
+                     base = in.flag() ? low : in.freq();
+        const ChFreqFunc func =
+            in.pick(32) ? fuzz::known().formulas[in.pick(int(fuzz::known().formulas.size()))]
+                        : nullptr;
         formulas = formulas && func;
         const int link = in.link(), param = in.channel();
         const bool uplinkOnly = in.flag();
         for (int i = 0; i < copies; ++i) {
-            store.SetBandInfo(tech, distinct ? band + QString::number(i) : band, start, stop, low, high, base, param,
-                              link, func, uplinkOnly);
+            store.SetBandInfo(tech, distinct ? band + QString::number(i) : band, start, stop, low,
+                              high, base, param, link, func, uplinkOnly);
         }
     }
     for (const ChTechnology &t : store.Technologies) {
-        FUZZ_CHECK(t.NumBand >= 0 && t.NumBand <= ChTechnology::MaxBands && t.BandIndexMap.size() == t.NumBand);
+        FUZZ_CHECK(t.NumBand >= 0 && t.NumBand <= ChTechnology::MaxBands
+                   && t.BandIndexMap.size() == t.NumBand);
         for (const ChBand &b : t.Bands)
             FUZZ_CHECK(b.NumSubBand >= 0 && b.NumSubBand <= ChBand::MaxSubBands);
     }
@@ -57,7 +63,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     // block per input costs more page faults under the sanitizers than the
     // whole rest of the run.
     alignas(ChBandStore) static unsigned char storage[sizeof(ChBandStore)];
-    std::unique_ptr<ChBandStore, void (*)(ChBandStore *)> own(nullptr, [](ChBandStore *p) { p->~ChBandStore(); });
+    std::unique_ptr<ChBandStore, void (*)(ChBandStore *)> own(
+        nullptr, [](ChBandStore *p) { p->~ChBandStore(); });
     fuzz::Input in(data, size);
     bool comparable = true;
     if (in.flag()) {
@@ -81,14 +88,18 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
             const QList<int> channels = s.GetAvailableChannels(standard, direction, mhz, high);
             const QStringList parts = standard.split(QLatin1String(" - "));
             const int wanted = direction == QLatin1String("Forward") ? 0 : 1;
-            FUZZ_CHECK(!comparable || channels == (parts.size() < 2 ? QList<int>()
-                       : literal::availableChannels(s, parts[0], parts[1], wanted, mhz, high)));
+            FUZZ_CHECK(!comparable
+                       || channels
+                              == (parts.size() < 2 ? QList<int>()
+                                                   : literal::availableChannels(
+                                                       s, parts[0], parts[1], wanted, mhz, high)));
             break;
         }
         default: {
             const int preferred = in.channel();
             const int channel = s.GetChNumFromFreq(tech, band, link, mhz, preferred);
-            FUZZ_CHECK(!comparable || channel == literal::chNumFromFreq(s, tech, band, link, mhz, preferred));
+            FUZZ_CHECK(!comparable
+                       || channel == literal::chNumFromFreq(s, tech, band, link, mhz, preferred));
             break;
         }
         }

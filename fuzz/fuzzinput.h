@@ -45,8 +45,9 @@ struct Known
                 for (int i = 0; i < band.NumSubBand; ++i) {
                     const stSubBand &r = band.SubBands[i];
                     channels.insert(channels.end(), {r.StartChannelNo, r.StopChannelNo});
-                    freqs.insert(freqs.end(), {r.StartFreq, r.StopFreq, r.BaseFreq,
-                                               r.FreqFunc(r.StopChannelNo, r.BaseFreq, r.StartChannelNo)});
+                    freqs.insert(freqs.end(),
+                                 {r.StartFreq, r.StopFreq, r.BaseFreq,
+                                  r.FreqFunc(r.StopChannelNo, r.BaseFreq, r.StartChannelNo)});
                     formulas.push_back(r.FreqFunc);
                 }
             }
@@ -70,12 +71,12 @@ inline void silence()
 }
 
 // A finding that is not a crash: abort so that libFuzzer keeps the input.
-#define FUZZ_CHECK(condition)                                                                   \
-    do {                                                                                        \
-        if (!(condition)) {                                                                     \
-            std::fprintf(stderr, "%s:%d: check failed: %s\n", __FILE__, __LINE__, #condition); \
-            std::abort();                                                                       \
-        }                                                                                       \
+#define FUZZ_CHECK(condition)                                                                      \
+    do {                                                                                           \
+        if (!(condition)) {                                                                        \
+            std::fprintf(stderr, "%s:%d: check failed: %s\n", __FILE__, __LINE__, #condition);     \
+            std::abort();                                                                          \
+        }                                                                                          \
     } while (false)
 
 inline quint64 bitsOf(double value)
@@ -101,9 +102,12 @@ public:
         const std::string bytes = p.ConsumeRandomLengthString(maxBytes);
         const int n = static_cast<int>(bytes.size());
         switch (pick(3)) {
-        case 0: return QString::fromUtf8(bytes.data(), n);
-        case 1: return QString::fromLatin1(bytes.data(), n);
-        default: return QString(reinterpret_cast<const QChar *>(bytes.data()), n / 2);
+        case 0:
+            return QString::fromUtf8(bytes.data(), n);
+        case 1:
+            return QString::fromLatin1(bytes.data(), n);
+        default:
+            return QString(reinterpret_cast<const QChar *>(bytes.data()), n / 2);
         }
     }
 
@@ -112,27 +116,39 @@ public:
     {
         QString s = real.value(pick(real.size()));
         switch (pick(9)) {
-        case 0: case 1: return s;
+        case 0:
+        case 1:
+            return s;
         case 2:
             if (!s.isEmpty()) {
                 const int i = pick(s.size());
                 s[i] = s[i].isUpper() ? s[i].toLower() : s[i].toUpper();
             }
             return s;
-        case 3: return s.left(pick(s.size() + 1));
-        case 4: return s + text(16);
-        case 5: return s + QLatin1String(" - ") + name(real);
-        case 6: return QString();
-        case 7: return text(64);
-        default: return s.repeated(1 + pick(1024)); // up to tens of kilobytes
+        case 3:
+            return s.left(pick(s.size() + 1));
+        case 4:
+            return s + text(16);
+        case 5:
+            return s + QLatin1String(" - ") + name(real);
+        case 6:
+            return QString();
+        case 7:
+            return text(64);
+        default:
+            return s.repeated(1 + pick(1024)); // up to tens of kilobytes
         }
     }
     QString tech() { return name(known().techs); }
     QString band() { return name(known().bands); }
-    QString standard() { return flag() ? name(known().standards) : tech() + QLatin1String(" - ") + band(); }
+    QString standard()
+    {
+        return flag() ? name(known().standards) : tech() + QLatin1String(" - ") + band();
+    }
     QString direction()
     {
-        static const QStringList directions = {QStringLiteral("Forward"), QStringLiteral("Reverse")};
+        static const QStringList directions = {QStringLiteral("Forward"),
+                                               QStringLiteral("Reverse")};
         return name(directions);
     }
 
@@ -140,16 +156,19 @@ public:
     int integer(const std::vector<int> &near)
     {
         switch (pick(4)) {
-        case 0: return p.ConsumeIntegral<int>();
+        case 0:
+            return p.ConsumeIntegral<int>();
         case 1: {
             static const int edges[] = {INT_MIN, INT_MIN + 1, -1, 0, 1, INT_MAX - 1, INT_MAX};
             return edges[pick(7)];
         }
         case 2: {
-            const qint64 moved = qint64(near[pick(int(near.size()))]) + p.ConsumeIntegralInRange(-3, 3);
+            const qint64 moved =
+                qint64(near[pick(int(near.size()))]) + p.ConsumeIntegralInRange(-3, 3);
             return int(qBound<qint64>(INT_MIN, moved, INT_MAX));
         }
-        default: return near[pick(int(near.size()))];
+        default:
+            return near[pick(int(near.size()))];
         }
     }
     int channel() { return integer(known().channels); }
@@ -169,8 +188,18 @@ public:
         }
         case 1: {
             const double inf = std::numeric_limits<double>::infinity();
-            static const double specials[] = {std::numeric_limits<double>::quiet_NaN(), -std::numeric_limits<double>::quiet_NaN(),
-                                              inf, -inf, DBL_TRUE_MIN, -DBL_TRUE_MIN, DBL_MIN, DBL_MAX, -DBL_MAX, 0.0, -0.0, 1.0};
+            static const double specials[] = {std::numeric_limits<double>::quiet_NaN(),
+                                              -std::numeric_limits<double>::quiet_NaN(),
+                                              inf,
+                                              -inf,
+                                              DBL_TRUE_MIN,
+                                              -DBL_TRUE_MIN,
+                                              DBL_MIN,
+                                              DBL_MAX,
+                                              -DBL_MAX,
+                                              0.0,
+                                              -0.0,
+                                              1.0};
             return specials[pick(12)];
         }
         case 2: {
@@ -179,8 +208,10 @@ public:
                 value = std::nextafter(value, k < 0 ? -HUGE_VAL : HUGE_VAL);
             return value;
         }
-        case 3: return near[pick(int(near.size()))] + p.ConsumeFloatingPointInRange(-10.0, 10.0);
-        default: return p.ConsumeFloatingPoint<double>();
+        case 3:
+            return near[pick(int(near.size()))] + p.ConsumeFloatingPointInRange(-10.0, 10.0);
+        default:
+            return p.ConsumeFloatingPoint<double>();
         }
     }
     double freq() { return real(known().freqs); }

@@ -91,10 +91,10 @@ class QuietLibrary
 {
 public:
     QuietLibrary()
-        : m_previous(qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {})),
+        : m_previous(
+            qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {})),
           m_old(std::cout.rdbuf(&m_sink))
-    {
-    }
+    {}
     ~QuietLibrary()
     {
         std::cout.rdbuf(m_old);

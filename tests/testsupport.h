@@ -20,12 +20,12 @@ inline quint64 doubleBits(double value)
     return bits;
 }
 
-#define COMPARE_BITS(actual, expected)                                                      \
-    do {                                                                                    \
-        const double actual_ = (actual), expected_ = (expected);                            \
-        if (doubleBits(actual_) != doubleBits(expected_))                                   \
-            QFAIL(qPrintable(QString::asprintf("%s is %.17g, expected %.17g", #actual,      \
-                                               actual_, expected_)));                       \
+#define COMPARE_BITS(actual, expected)                                                             \
+    do {                                                                                           \
+        const double actual_ = (actual), expected_ = (expected);                                   \
+        if (doubleBits(actual_) != doubleBits(expected_))                                          \
+            QFAIL(qPrintable(                                                                      \
+                QString::asprintf("%s is %.17g, expected %.17g", #actual, actual_, expected_)));   \
     } while (false)
 
 inline QString str(const char *text)

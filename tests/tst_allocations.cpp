@@ -25,9 +25,21 @@ extern "C" {
 void *__libc_malloc(size_t);
 void *__libc_calloc(size_t, size_t);
 void *__libc_realloc(void *, size_t);
-void *malloc(size_t size) { ++g_allocations; return __libc_malloc(size); }
-void *calloc(size_t n, size_t size) { ++g_allocations; return __libc_calloc(n, size); }
-void *realloc(void *p, size_t size) { ++g_allocations; return __libc_realloc(p, size); }
+void *malloc(size_t size)
+{
+    ++g_allocations;
+    return __libc_malloc(size);
+}
+void *calloc(size_t n, size_t size)
+{
+    ++g_allocations;
+    return __libc_calloc(n, size);
+}
+void *realloc(void *p, size_t size)
+{
+    ++g_allocations;
+    return __libc_realloc(p, size);
+}
 }
 #endif
 
@@ -43,8 +55,10 @@ private slots:
     {
         QTest::addColumn<Query>("query");
         static const QString fdd = QStringLiteral("LTE-FDD"), b1 = QStringLiteral("Band 1 (2100)");
-        static const QString tdd = QStringLiteral("LTE-TDD"), b41 = QStringLiteral("Band 41 (2496)");
-        static const QString nr = QStringLiteral("5G NR"), n77 = QStringLiteral("Band n77 (TD 3700)");
+        static const QString tdd = QStringLiteral("LTE-TDD"),
+                             b41 = QStringLiteral("Band 41 (2496)");
+        static const QString nr = QStringLiteral("5G NR"),
+                             n77 = QStringLiteral("Band n77 (TD 3700)");
         static const QString unknown = QStringLiteral("no such name");
         const ChBandStore &s = G_CHSTD;
         QTest::newRow("GetFreq") << Query([&] { s.GetFreq(fdd, b1, 0, 300); });
@@ -52,18 +66,30 @@ private slots:
         QTest::newRow("GetFreq unknown names") << Query([&] { s.GetFreq(unknown, unknown, 1, 5); });
         QTest::newRow("GetFreqNoLimit") << Query([&] { s.GetFreqNoLimit(fdd, b1, 1, 5); });
         QTest::newRow("IsExistChannelNo") << Query([&] { s.IsExistChannelNo(fdd, b1, 1, 18001); });
-        QTest::newRow("GetStopChannelNo_InSample") << Query([&] { s.GetStopChannelNo_InSample(fdd, b1, 300, 0); });
+        QTest::newRow("GetStopChannelNo_InSample")
+            << Query([&] { s.GetStopChannelNo_InSample(fdd, b1, 300, 0); });
         QTest::newRow("band limits") << Query([&] {
-            s.GetStartFreq(fdd, b1); s.GetStartFreq(fdd, b1, 1); s.GetStopFreq(fdd, b1, 0);
-            s.GetStartChannelNo(fdd, b1, 1); s.GetStopChannelNo(fdd, b1, 0);
-            s.GetNumSubBand(fdd, b1); s.IsUplinkOnly(tdd, b41); s.GetDefaultIntBW(nr);
+            s.GetStartFreq(fdd, b1);
+            s.GetStartFreq(fdd, b1, 1);
+            s.GetStopFreq(fdd, b1, 0);
+            s.GetStartChannelNo(fdd, b1, 1);
+            s.GetStopChannelNo(fdd, b1, 0);
+            s.GetNumSubBand(fdd, b1);
+            s.IsUplinkOnly(tdd, b41);
+            s.GetDefaultIntBW(nr);
         });
-        QTest::newRow("GetChNumFromFreq n77") << Query([&] { s.GetChNumFromFreq(nr, n77, 0, 3750.0, -1); });
-        QTest::newRow("GetChNumFromFreq LTE") << Query([&] { s.GetChNumFromFreq(fdd, b1, 0, 2169.9, 5); });
+        QTest::newRow("GetChNumFromFreq n77")
+            << Query([&] { s.GetChNumFromFreq(nr, n77, 0, 3750.0, -1); });
+        QTest::newRow("GetChNumFromFreq LTE")
+            << Query([&] { s.GetChNumFromFreq(fdd, b1, 0, 2169.9, 5); });
         QTest::newRow("GetOffsetChUpDown") << Query([&] { s.GetOffsetChUpDown(fdd, b1, 300, 0); });
-        QTest::newRow("enumerator and counts") << Query([&] { s.GetEnumulator(fdd, b1); s.GetNumBand(nr); });
+        QTest::newRow("enumerator and counts") << Query([&] {
+            s.GetEnumulator(fdd, b1);
+            s.GetNumBand(nr);
+        });
         QTest::newRow("classifiers") << Query([&] {
-            s.CheckChannelStandardIsLTETDD(b41); s.CheckChannelStandardIsTDS(b41);
+            s.CheckChannelStandardIsLTETDD(b41);
+            s.CheckChannelStandardIsTDS(b41);
             s.CheckChannelStandardIsWiMax(b41);
         });
     }

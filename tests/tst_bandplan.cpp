@@ -26,26 +26,75 @@ struct FormulaEntry
 #define L(n, up, dn) O(LTEBand##n##Up, up, 0.1) O(LTEBand##n##Dn, dn, 0.1)
 #define T(n, offset) O(LTEBand##n, offset, 0.1)
 const FormulaEntry kFormulas[] = {
-    O(CDMA_Band0_1, 0, 0.03) O(CDMA_Band0_2, 1023, 0.03) O(CDMA_Band1_4, 0, 0.05) O(CDMA_Band2_1, 0, 0.025)
-    O(CDMA_Band2_2, 1328, 0.025) O(CDMA_Band3_1, 0, 0.0125) O(CDMA_Band3_2, 800, 0.0125)
-    O(CDMA_Band3_3, 1040, 0.0125) O(CDMA_Band3_4, 1200, 0.0125) O(CDMA_Band5_1, 1, 0.025)
-    O(CDMA_Band5_2, 512, 0.025) O(CDMA_Band5_3, 1024, 0.02) O(CDMA_Band5_4, 1792, 0.02)
-    O(CDMA_Band10_2, 720, 0.025) O(CDMA_Band789, 0, 0.05) O(CDMA_Band10_1, 0, 0.025)
-    O(GSM_450, 259, 0.2) O(GSM_480, 306, 0.2) O(GSM_850, 128, 0.2) O(GSM_900, 0, 0.2) O(GSM_900E_1, 0, 0.2)
-    O(GSM_900E_2, 1024, 0.2) O(GSM_900R_1, 0, 0.2) O(GSM_900R_2, 1024, 0.2) O(GSM_DCS1800, 512, 0.2)
-    O(GSM_PCS1900, 512, 0.2) O(TDSCDMA_Common, 0, 0.2) O(TDSCDMA_Common2, -1, 0.2) O(WCDMA_Common, 0, 0.2)
-    O(WIMAX_Common1, 0, 1.25) O(WIMAX_Common2, 0, 1.75) O(WIMAX_Common3, 0, 5.0) O(WIMAX_Common4, 0, 0.125)
-    R(5GNRBand, 0.005) R(5GNRBand15k, 0.015) R(5GNRBand60k, 0.06)
-    L(1, 18000, 0) L(2, 18600, 600) L(3, 19200, 1200) L(4, 19950, 1950) L(5, 20400, 2400) L(7, 20750, 2750)
-    L(8, 21450, 3450) L(9, 21800, 3800) L(10, 22150, 4150) L(11, 22750, 4750) L(12, 23010, 5010)
-    L(13, 23180, 5180) L(14, 23280, 5280) L(17, 23730, 5730) L(18, 23850, 5850) L(19, 24000, 6000)
-    L(20, 24150, 6150) L(21, 24450, 6450) L(22, 24600, 6600) L(23, 25500, 7500) L(24, 25700, 7700)
-    L(25, 26040, 8040) L(26, 26690, 8690) L(27, 27040, 9040) L(28, 27210, 9210) L(29, 27660, 9660)
-    L(30, 27660, 9770) L(31, 27760, 9870) L(32, 27760, 9920) L(65, 131072, 65536) L(66, 131972, 66436)
-    L(67, 131972, 67336) L(68, 132672, 67536) L(69, 132672, 67836) L(70, 132972, 68336)
-    L(71, 133122, 68586) L(72, 133472, 68936) T(33, 36000) T(34, 36200) T(35, 36350) T(36, 36950)
-    T(37, 37550) T(38, 37750) T(39, 38250) T(40, 38650) T(41, 39650) T(42, 41590) T(43, 43590)
-    T(44, 45590) T(45, 46590) T(46, 46790) T(47, 54540) T(48, 55240)};
+    O(CDMA_Band0_1, 0, 0.03) O(CDMA_Band0_2, 1023, 0.03) O(CDMA_Band1_4, 0, 0.05) O(
+        CDMA_Band2_1, 0, 0.025) O(CDMA_Band2_2, 1328, 0.025) O(CDMA_Band3_1, 0, 0.0125)
+        O(CDMA_Band3_2, 800, 0.0125) O(CDMA_Band3_3, 1040, 0.0125) O(CDMA_Band3_4, 1200, 0.0125) O(
+            CDMA_Band5_1, 1, 0.025) O(CDMA_Band5_2, 512, 0.025) O(CDMA_Band5_3, 1024,
+                                                                  0.02) O(CDMA_Band5_4, 1792, 0.02)
+            O(CDMA_Band10_2, 720, 0.025) O(CDMA_Band789, 0, 0.05) O(CDMA_Band10_1, 0, 0.025)
+                O(GSM_450, 259, 0.2) O(GSM_480, 306, 0.2) O(GSM_850, 128, 0.2) O(GSM_900, 0, 0.2) O(
+                    GSM_900E_1,
+                    0, 0.2) O(GSM_900E_2, 1024, 0.2)
+                    O(GSM_900R_1, 0, 0.2) O(GSM_900R_2, 1024, 0.2) O(GSM_DCS1800, 512, 0.2) O(
+                        GSM_PCS1900,
+                        512, 0.2)
+                        O(TDSCDMA_Common, 0, 0.2) O(TDSCDMA_Common2, -1, 0.2) O(
+                            WCDMA_Common,
+                            0, 0.2) O(WIMAX_Common1, 0, 1.25)
+                            O(WIMAX_Common2, 0, 1.75) O(WIMAX_Common3, 0, 5.0) O(
+                                WIMAX_Common4,
+                                0, 0.125) R(5GNRBand, 0.005)
+                                R(5GNRBand15k, 0.015) R(5GNRBand60k, 0.06) L(1, 18000, 0) L(
+                                    2, 18600,
+                                    600) L(3, 19200,
+                                           1200) L(4, 19950, 1950)
+                                    L(5, 20400, 2400) L(
+                                        7, 20750,
+                                        2750) L(8, 21450, 3450)
+                                        L(9, 21800, 3800) L(
+                                            10,
+                                            22150, 4150) L(11, 22750, 4750)
+                                            L(12, 23010, 5010) L(13, 23180, 5180) L(14, 23280, 5280) L(
+                                                17,
+                                                23730, 5730) L(18, 23850, 5850)
+                                                L(19, 24000, 6000) L(20, 24150, 6150) L(
+                                                    21,
+                                                    24450, 6450) L(22, 24600, 6600)
+                                                    L(23, 25500, 7500) L(24, 25700, 7700) L(
+                                                        25,
+                                                        26040, 8040) L(26, 26690, 8690)
+                                                        L(27, 27040, 9040) L(28, 27210, 9210) L(
+                                                            29,
+                                                            27660, 9660) L(30, 27660, 9770)
+                                                            L(31, 27760, 9870) L(32, 27760, 9920) L(
+                                                                65,
+                                                                131072,
+                                                                65536) L(66, 131972,
+                                                                         66436) L(67, 131972, 67336)
+                                                                L(68, 132672, 67536) L(
+                                                                    69,
+                                                                    132672,
+                                                                    67836) L(70, 132972, 68336)
+                                                                    L(71, 133122, 68586) L(
+                                                                        72,
+                                                                        133472,
+                                                                        68936) T(33,
+                                                                                 36000) T(34, 36200)
+                                                                        T(35, 36350) T(36, 36950) T(
+                                                                            37,
+                                                                            37550) T(38, 37750)
+                                                                            T(39, 38250) T(
+                                                                                40,
+                                                                                38650) T(41, 39650)
+                                                                                T(42, 41590) T(
+                                                                                    43,
+                                                                                    43590) T(44,
+                                                                                             45590)
+                                                                                    T(45, 46590) T(
+                                                                                        46, 46790)
+                                                                                        T(47, 54540)
+                                                                                            T(48,
+                                                                                              55240)};
 #undef O
 #undef R
 #undef L
@@ -69,8 +118,10 @@ qint32 wrap32(qint64 value)
 
 QString recordText(const stSubBand &r)
 {
-    return nums({r.StartChannelNo, r.StopChannelNo, r.StartFreq, r.StopFreq, r.BaseFreq, r.SubBandParam, r.Link})
-           + QLatin1Char(' ') + str(formulaName(r.FreqFunc)) + QLatin1Char(' ') + Num(r.UplinkOnly).text;
+    return nums({r.StartChannelNo, r.StopChannelNo, r.StartFreq, r.StopFreq, r.BaseFreq,
+                 r.SubBandParam, r.Link})
+           + QLatin1Char(' ') + str(formulaName(r.FreqFunc)) + QLatin1Char(' ')
+           + Num(r.UplinkOnly).text;
 }
 
 // The store in slot order (little-endian, doubles by their bits, formulas by
@@ -80,7 +131,9 @@ QByteArray serialize(const ChBandStore &store, bool everything)
     QByteArray bytes;
     QDataStream out(&bytes, QIODevice::WriteOnly);
     out.setByteOrder(QDataStream::LittleEndian);
-    const auto text = [&out](const QByteArray &s) { out.writeRawData(s.constData(), s.size() + 1); };
+    const auto text = [&out](const QByteArray &s) {
+        out.writeRawData(s.constData(), s.size() + 1);
+    };
     for (const ChTechnology &tech : store.Technologies) {
         text(tech.TechName.toUtf8());
         out << qint32(tech.NumBand);
@@ -90,8 +143,8 @@ QByteArray serialize(const ChBandStore &store, bool everything)
             out << quint8(band.IsGlobal) << qint32(band.NumSubBand);
             for (int i = 0; i < (everything ? ChBand::MaxSubBands : band.NumSubBand); ++i) {
                 const stSubBand &r = band.SubBands[i];
-                out << r.StartChannelNo << r.StopChannelNo << r.StartFreq << r.StopFreq << r.BaseFreq
-                    << r.SubBandParam << r.Link;
+                out << r.StartChannelNo << r.StopChannelNo << r.StartFreq << r.StopFreq
+                    << r.BaseFreq << r.SubBandParam << r.Link;
                 text(formulaName(r.FreqFunc));
                 out << quint8(r.UplinkOnly);
             }
@@ -150,7 +203,8 @@ private slots:
         for (const qint64 channel : {qint64(INT_MIN), qint64(INT_MAX)}) {
             for (const int ref : {1, -1, INT_MIN, INT_MAX}) {
                 const qint64 exact = times5 ? channel * 5 : channel - (f.usesRef ? ref : f.offset);
-                COMPARE_BITS(f.func(int(channel), 100.0, ref), 100.0 + double(wrap32(exact)) * (times5 ? 1.0 : f.step));
+                COMPARE_BITS(f.func(int(channel), 100.0, ref),
+                             100.0 + double(wrap32(exact)) * (times5 ? 1.0 : f.step));
             }
         }
     }
@@ -184,7 +238,8 @@ private slots:
         for (int b = 0, n = 1; b < tech.NumBand; b += n, n = 1) {
             while (b + n < tech.NumBand && tech.Bands[b + n].NumSubBand == tech.Bands[b].NumSubBand)
                 ++n;
-            runs << QString::number(tech.Bands[b].NumSubBand) + (n > 1 ? QStringLiteral("*%1").arg(n) : QString());
+            runs << QString::number(tech.Bands[b].NumSubBand)
+                        + (n > 1 ? QStringLiteral("*%1").arg(n) : QString());
         }
         QCOMPARE(runs.join(QLatin1Char(' ')), str(kTechs[slot].records));
         // Slots past NumBand and records past NumSubBand stay as constructed.
@@ -216,7 +271,8 @@ private slots:
         QTest::addColumn<int>("channel");
         QTest::addColumn<double>("mhz"); // the record's formula at that channel
         const auto rec = [](int t, int b, int i, const char *fields, int channel, double mhz) {
-            QTest::addRow("%s %d #%d", kTechs[t].name, b, i) << t << b << i << str(fields) << channel << mhz;
+            QTest::addRow("%s %d #%d", kTechs[t].name, b, i)
+                << t << b << i << str(fields) << channel << mhz;
         };
         // The first and last record of every technology, and the oddities.
         rec(0, 0, 0, "1 799 824 849 825 2 1 CDMA_Band0_1 0", 1, 825.03);
@@ -285,7 +341,8 @@ private slots:
         LogCapture log;
         const auto store = std::make_unique<ChBandStore>();
         // Three streamed items with QDebug's blank between them.
-        QCOMPARE(log.take(), QStringList{QStringLiteral("D [ChStd]  Version :  " SAISKUKO_VERSION_STR)});
+        QCOMPARE(log.take(),
+                 QStringList{QStringLiteral("D [ChStd]  Version :  " SAISKUKO_VERSION_STR)});
         QCOMPARE(ChStd::GetChStdPointer(), &G_CHSTD);
     }
 
@@ -315,8 +372,9 @@ private slots:
         add(*store, "GSM", QStringLiteral("GSM 750"), 2);
         add(*store, "GSM", QStringLiteral("GSM 710"), 3, 0); // appends, no new slot
         add(*store, "GSM", QStringLiteral("P-GSM 900"), 4);  // an existing band grows
-        QCOMPARE(nums({gsm.NumBand, gsm.BandIndexMap.value(str("GSM 710")), gsm.BandIndexMap.value(str("GSM 750")),
-                       gsm.Bands[9].NumSubBand, gsm.Bands[10].NumSubBand, gsm.Bands[3].NumSubBand,
+        QCOMPARE(nums({gsm.NumBand, gsm.BandIndexMap.value(str("GSM 710")),
+                       gsm.BandIndexMap.value(str("GSM 750")), gsm.Bands[9].NumSubBand,
+                       gsm.Bands[10].NumSubBand, gsm.Bands[3].NumSubBand,
                        gsm.Bands[3].SubBands[2].StartChannelNo, gsm.Bands[9].SubBands[2].Link,
                        store->Technologies[0].NumBand}),
                  str("11 9 10 2 1 3 4 -9 11"));
@@ -353,7 +411,8 @@ private slots:
             const auto store = makeStore();
             ChTechnology &cdma = store->Technologies[0];
             const QString full = QStringLiteral("Band 0 (800)");
-            while (newBand ? cdma.NumBand < ChTechnology::MaxBands : cdma.Bands[0].NumSubBand < ChBand::MaxSubBands)
+            while (newBand ? cdma.NumBand < ChTechnology::MaxBands
+                           : cdma.Bands[0].NumSubBand < ChBand::MaxSubBands)
                 add(*store, "CDMA", newBand ? QStringLiteral("Extra %1").arg(cdma.NumBand) : full);
             const QByteArray before = serialize(*store, true);
             const QMap<QString, int> map = cdma.BandIndexMap;
@@ -364,8 +423,10 @@ private slots:
             QCOMPARE(cdma.BandIndexMap, map);
             const QStringList lines = log.take();
             QCOMPARE(lines.size(), 1);
-            QVERIFY2(lines[0].startsWith(QLatin1String("W ")) && lines[0].contains(QStringLiteral("TD-LTE"))
-                         && lines[0].contains(refused), qPrintable(lines[0]));
+            QVERIFY2(lines[0].startsWith(QLatin1String("W "))
+                         && lines[0].contains(QStringLiteral("TD-LTE"))
+                         && lines[0].contains(refused),
+                     qPrintable(lines[0]));
         }
     }
 };

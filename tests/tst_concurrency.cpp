@@ -12,7 +12,10 @@
 namespace {
 
 std::atomic<int> g_warnings{0}, g_debugs{0}, g_printed{0};
-void countLine(QtMsgType type, const QMessageLogContext &, const QString &) { ++(type == QtDebugMsg ? g_debugs : g_warnings); }
+void countLine(QtMsgType type, const QMessageLogContext &, const QString &)
+{
+    ++(type == QtDebugMsg ? g_debugs : g_warnings);
+}
 
 // Counts what reaches std::cout; unbuffered, so writers share only the counter.
 struct CountingBuf : std::streambuf
@@ -20,7 +23,10 @@ struct CountingBuf : std::streambuf
     int_type overflow(int_type c) override { return ++g_printed, traits_type::not_eof(c); }
 };
 
-QString text(const stCHList &t) { return (t.techList + t.bandList + t.chRangeList + t.freqRangeList).join(str("|")); }
+QString text(const stCHList &t)
+{
+    return (t.techList + t.bandList + t.chRangeList + t.freqRangeList).join(str("|"));
+}
 
 // Every kind of query on every band, both links, a channel and a frequency of
 // the band, and on enumerators of no band; every mode and technology table.
@@ -34,7 +40,8 @@ std::vector<std::function<QString()>> allQueries()
     std::vector<std::function<QString()>> q;
     for (const int code : codes) {
         const QString standard = s.GetEnumulator(code);
-        const QString tech = standard.section(str(" - "), 0, 0), band = standard.section(str(" - "), 1);
+        const QString tech = standard.section(str(" - "), 0, 0),
+                      band = standard.section(str(" - "), 1);
         for (const int link : {0, 1}) {
             const int ch = s.GetStartChannelNo(tech, band, link);
             const double mhz = s.GetFreq(tech, band, link, ch);
@@ -42,30 +49,60 @@ std::vector<std::function<QString()>> allQueries()
             q.push_back([=, &s] {
                 QString hits;
                 for (const ChInfo &h : s.GetChInfoFromFreq(mhz))
-                    hits += h.techName + h.bandName + nums({h.linkDirection, h.channelNo, h.freqOffset});
-                const QList<int> window = s.GetAvailableChannels(standard, dir, mhz - 0.5, mhz + 0.5);
-                return hits + s.GetEnumulator(code) + s.GetBandName(code) + s.GetBandList(tech).join(str("/"))
-                       + s.GetChNumRefString(tech, band, link) + s.GetChNumRefString_List(tech, band, link)
+                    hits += h.techName + h.bandName
+                            + nums({h.linkDirection, h.channelNo, h.freqOffset});
+                const QList<int> window =
+                    s.GetAvailableChannels(standard, dir, mhz - 0.5, mhz + 0.5);
+                return hits + s.GetEnumulator(code) + s.GetBandName(code)
+                       + s.GetBandList(tech).join(str("/")) + s.GetChNumRefString(tech, band, link)
+                       + s.GetChNumRefString_List(tech, band, link)
                        + s.GetFreqRefString_List(tech, band, link)
-                       + nums({window.size(), window.value(0), window.value(window.size() - 1), s.GetTech(code),
-                               s.GetBand(code), s.IsChannelStandard(code), s.IsChannelStandard(standard),
-                               s.GetEnumulator(tech, band), s.GetNumBand(tech), s.CheckChannelStandardIsLTETDD(band),
-                               s.CheckChannelStandardIsTDS(band), s.CheckChannelStandardIsWiMax(band), s.GetNumSubBand(code),
-                               s.GetNumSubBand(tech, band), s.IsUplinkOnly(code), s.IsUplinkOnly(tech, band),
-                               s.GetStartFreq(code), s.GetStartFreq(tech, band), s.GetDefaultIntBW(code), s.GetDefaultIntBW(tech),
-                               s.GetStartFreq(code, link), s.GetStartFreq(tech, band, link), s.GetStopFreq(code, link),
-                               s.GetStopFreq(tech, band, link), s.GetStartChannelNo(code, link),
-                               s.GetStartChannelNo(tech, band, link), s.GetStopChannelNo(code, link),
-                               s.GetStopChannelNo(tech, band, link), s.GetFreq(code, link, ch), s.GetFreq(tech, band, link, ch),
-                               s.GetFreq(standard, link, ch + 1), s.GetFreq(standard, dir, ch),
-                               s.GetFreqNoLimit(tech, band, link, ch - 7), s.IsExistChannelNo(code, link, ch),
-                               s.IsExistChannelNo(tech, band, link, ch), s.GetStopChannelNo_InSample(tech, band, ch, link),
-                               s.GetOffsetChUpDown(code, link, ch), s.GetOffsetChUpDown(tech, band, ch, link),
-                               s.GetOffsetChUpDown(standard, link, ch), s.GetOffsetChUpDown(standard, dir, ch)});
+                       + nums({window.size(),
+                               window.value(0),
+                               window.value(window.size() - 1),
+                               s.GetTech(code),
+                               s.GetBand(code),
+                               s.IsChannelStandard(code),
+                               s.IsChannelStandard(standard),
+                               s.GetEnumulator(tech, band),
+                               s.GetNumBand(tech),
+                               s.CheckChannelStandardIsLTETDD(band),
+                               s.CheckChannelStandardIsTDS(band),
+                               s.CheckChannelStandardIsWiMax(band),
+                               s.GetNumSubBand(code),
+                               s.GetNumSubBand(tech, band),
+                               s.IsUplinkOnly(code),
+                               s.IsUplinkOnly(tech, band),
+                               s.GetStartFreq(code),
+                               s.GetStartFreq(tech, band),
+                               s.GetDefaultIntBW(code),
+                               s.GetDefaultIntBW(tech),
+                               s.GetStartFreq(code, link),
+                               s.GetStartFreq(tech, band, link),
+                               s.GetStopFreq(code, link),
+                               s.GetStopFreq(tech, band, link),
+                               s.GetStartChannelNo(code, link),
+                               s.GetStartChannelNo(tech, band, link),
+                               s.GetStopChannelNo(code, link),
+                               s.GetStopChannelNo(tech, band, link),
+                               s.GetFreq(code, link, ch),
+                               s.GetFreq(tech, band, link, ch),
+                               s.GetFreq(standard, link, ch + 1),
+                               s.GetFreq(standard, dir, ch),
+                               s.GetFreqNoLimit(tech, band, link, ch - 7),
+                               s.IsExistChannelNo(code, link, ch),
+                               s.IsExistChannelNo(tech, band, link, ch),
+                               s.GetStopChannelNo_InSample(tech, band, ch, link),
+                               s.GetOffsetChUpDown(code, link, ch),
+                               s.GetOffsetChUpDown(tech, band, ch, link),
+                               s.GetOffsetChUpDown(standard, link, ch),
+                               s.GetOffsetChUpDown(standard, dir, ch)});
             });
             q.push_back([=, &s] {
-                return nums({s.GetChNumFromFreq(code, link, mhz, ch), s.GetChNumFromFreq(tech, band, link, mhz, -1),
-                             s.GetChNumFromFreq(standard, link, mhz, ch), s.GetChNumFromFreq(standard, dir, mhz, 0)});
+                return nums({s.GetChNumFromFreq(code, link, mhz, ch),
+                             s.GetChNumFromFreq(tech, band, link, mhz, -1),
+                             s.GetChNumFromFreq(standard, link, mhz, ch),
+                             s.GetChNumFromFreq(standard, dir, mhz, 0)});
             });
         }
     }
@@ -73,7 +110,12 @@ std::vector<std::function<QString()>> allQueries()
         q.push_back([mode] { return text(ChStd::GetBandListByMode(mode, mode, mode % 2)); });
     const QStringList techs = s.TechIndexMap.keys() << str("unknown");
     for (const QString &tech : techs)
-        q.push_back([tech] { stCHList l; ChStd::SetBandListName(tech, l); ChStd::SetBandListRange(tech, 1, l); return text(l); });
+        q.push_back([tech] {
+            stCHList l;
+            ChStd::SetBandListName(tech, l);
+            ChStd::SetBandListRange(tech, 1, l);
+            return text(l);
+        });
     return q;
 }
 

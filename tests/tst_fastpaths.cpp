@@ -11,8 +11,8 @@
 
 #include <cmath>
 #include <cstring>
-#include <memory>
 #include <limits>
+#include <memory>
 
 namespace {
 
@@ -46,9 +46,16 @@ double at(const stSubBand &r, qint64 ch)
 QList<double> probesOf(const stSubBand &r)
 {
     const double inf = std::numeric_limits<double>::infinity();
-    QList<double> probes = {r.StartFreq, r.StopFreq, r.StartFreq - 1.0, r.StopFreq + 1.0,
-                            std::nextafter(r.StartFreq, -inf), std::nextafter(r.StopFreq, inf),
-                            std::numeric_limits<double>::quiet_NaN(), inf, -inf, -0.0};
+    QList<double> probes = {r.StartFreq,
+                            r.StopFreq,
+                            r.StartFreq - 1.0,
+                            r.StopFreq + 1.0,
+                            std::nextafter(r.StartFreq, -inf),
+                            std::nextafter(r.StopFreq, inf),
+                            std::numeric_limits<double>::quiet_NaN(),
+                            inf,
+                            -inf,
+                            -0.0};
     const qint64 first = r.StartChannelNo, last = r.StopChannelNo;
     for (qint64 ch : {first, first + (last - first) / 2, last}) {
         const double f = at(r, ch);
@@ -91,7 +98,9 @@ private slots:
             for (double f : probesOf(r)) {
                 for (int link : {0, 1}) {
                     const QString key = QStringLiteral("%1|%2|%3|%4")
-                                            .arg(p.tech, p.band).arg(link).arg(f, 0, 'g', 17);
+                                            .arg(p.tech, p.band)
+                                            .arg(link)
+                                            .arg(f, 0, 'g', 17);
                     if (seen.contains(key))
                         continue;
                     seen.insert(key);
@@ -102,10 +111,14 @@ private slots:
                         const int actual =
                             G_CHSTD.GetChNumFromFreq(p.tech, p.band, link, f, preferred);
                         if (actual != expected)
-                            QFAIL(qPrintable(QStringLiteral("%1 / %2 link %3 at %4 pref %5: %6, walk %7")
-                                                 .arg(p.tech, p.band).arg(link)
-                                                 .arg(f, 0, 'g', 17).arg(preferred)
-                                                 .arg(actual).arg(expected)));
+                            QFAIL(qPrintable(
+                                QStringLiteral("%1 / %2 link %3 at %4 pref %5: %6, walk %7")
+                                    .arg(p.tech, p.band)
+                                    .arg(link)
+                                    .arg(f, 0, 'g', 17)
+                                    .arg(preferred)
+                                    .arg(actual)
+                                    .arg(expected)));
                     }
                 }
             }
@@ -141,14 +154,23 @@ private slots:
         for (const Place &p : everyRecord()) {
             const stSubBand &r = *p.record;
             const QString standard = p.tech + QLatin1String(" - ") + p.band;
-            const QString direction = r.Link == 0 ? QStringLiteral("Forward") : QStringLiteral("Reverse");
-            const double mid = at(r, r.StartChannelNo + (qint64(r.StopChannelNo) - r.StartChannelNo) / 2);
+            const QString direction =
+                r.Link == 0 ? QStringLiteral("Forward") : QStringLiteral("Reverse");
+            const double mid =
+                at(r, r.StartChannelNo + (qint64(r.StopChannelNo) - r.StartChannelNo) / 2);
             const double raster = at(r, qint64(r.StartChannelNo) + 1) - at(r, r.StartChannelNo);
-            QList<QPair<double, double>> windows = {
-                {mid, mid}, {mid - raster / 2, mid + raster / 2}, {mid - raster, mid + raster},
-                {mid - 10 * raster, mid + 3.3 * raster}, {r.StartFreq, r.StopFreq},
-                {-inf, inf}, {mid + raster, mid - raster}, {nan, mid}, {mid, nan},
-                {std::nextafter(mid, inf), mid + 100 * raster}, {-inf, mid}, {mid, inf}};
+            QList<QPair<double, double>> windows = {{mid, mid},
+                                                    {mid - raster / 2, mid + raster / 2},
+                                                    {mid - raster, mid + raster},
+                                                    {mid - 10 * raster, mid + 3.3 * raster},
+                                                    {r.StartFreq, r.StopFreq},
+                                                    {-inf, inf},
+                                                    {mid + raster, mid - raster},
+                                                    {nan, mid},
+                                                    {mid, nan},
+                                                    {std::nextafter(mid, inf), mid + 100 * raster},
+                                                    {-inf, mid},
+                                                    {mid, inf}};
             for (const auto &w : windows) {
                 const QList<int> expected =
                     literal::availableChannels(G_CHSTD, p.tech, p.band, r.Link, w.first, w.second);
@@ -156,8 +178,10 @@ private slots:
                     G_CHSTD.GetAvailableChannels(standard, direction, w.first, w.second);
                 if (actual != expected)
                     QFAIL(qPrintable(QStringLiteral("%1 [%2, %3]: %4 channels, walk %5")
-                                         .arg(standard).arg(w.first, 0, 'g', 17)
-                                         .arg(w.second, 0, 'g', 17).arg(actual.size())
+                                         .arg(standard)
+                                         .arg(w.first, 0, 'g', 17)
+                                         .arg(w.second, 0, 'g', 17)
+                                         .arg(actual.size())
                                          .arg(expected.size())));
             }
         }
@@ -172,27 +196,33 @@ private slots:
         ChBandStore &store = *owned;
         const QString gsm = QStringLiteral("GSM");
         auto add = [&](const char *band, int first, int last, double base, ChFreqFunc f) {
-            store.SetBandInfo(gsm, QLatin1String(band), first, last, -1e9, 1e9, base, 1, 1, f, false);
+            store.SetBandInfo(gsm, QLatin1String(band), first, last, -1e9, 1e9, base, 1, 1, f,
+                              false);
         };
         const ChFreqFunc zigzag = [](int ch, double base, int) { return base + (ch % 7) * 0.5; };
         const ChFreqFunc plateau = [](int ch, double base, int) { return base + (ch / 4) * 0.2; };
         add("Zigzag", 0, 40, 100.0, zigzag);
         add("Plateau", 0, 40, 100.0, plateau);
-        add("Wrapping", std::numeric_limits<int>::max() - 20, std::numeric_limits<int>::max(),
-            0.0, &ChBandStore::chstdGetLTEBand1Up);
+        add("Wrapping", std::numeric_limits<int>::max() - 20, std::numeric_limits<int>::max(), 0.0,
+            &ChBandStore::chstdGetLTEBand1Up);
         add("Wrapping5", 429496700, 429496740, 0.0, &ChBandStore::chstdGetWIMAX_Common3);
         add("Empty", 10, 5, 0.0, &ChBandStore::chstdGetGSM_900);
         add("Huge base", 0, 40, 1e300, &ChBandStore::chstdGetGSM_900);
-        for (const char *band : {"Zigzag", "Plateau", "Wrapping", "Wrapping5", "Empty", "Huge base"}) {
+        for (const char *band :
+             {"Zigzag", "Plateau", "Wrapping", "Wrapping5", "Empty", "Huge base"}) {
             const QString name = QLatin1String(band);
-            const stSubBand &r = store.Technologies[1].Bands[store.Technologies[1].BandIndexMap.value(name)].SubBands[0];
+            const stSubBand &r = store.Technologies[1]
+                                     .Bands[store.Technologies[1].BandIndexMap.value(name)]
+                                     .SubBands[0];
             QList<double> probes = probesOf(r);
             for (int ch = 0; ch < 12; ++ch)
-                probes << at(r, qint64(r.StartChannelNo) + ch) << at(r, qint64(r.StartChannelNo) + ch) + 0.1;
+                probes << at(r, qint64(r.StartChannelNo) + ch)
+                       << at(r, qint64(r.StartChannelNo) + ch) + 0.1;
             for (double f : probes) {
                 QCOMPARE(store.GetChNumFromFreq(gsm, name, 1, f, 3),
                          literal::chNumFromFreq(store, gsm, name, 1, f, 3));
-                QCOMPARE(store.GetAvailableChannels(gsm + QLatin1String(" - ") + name, QString(), f, f + 1.0),
+                QCOMPARE(store.GetAvailableChannels(gsm + QLatin1String(" - ") + name, QString(), f,
+                                                    f + 1.0),
                          literal::availableChannels(store, gsm, name, 1, f, f + 1.0));
                 const QList<ChInfo> expected = literal::chInfoFromFreq(store, f);
                 QVERIFY2(literal::sameHits(store.GetChInfoFromFreq(f), expected), qPrintable(name));

@@ -13,7 +13,8 @@ const double kNaN = std::numeric_limits<double>::quiet_NaN();
 // picks the private store of initTestCase; `call` asks the query with the
 // names as QStrings and gives the answers as one string.
 struct Args;
-using Call = QString (*)(const ChBandStore &, const Args &, const QString &tech, const QString &band);
+using Call = QString (*)(const ChBandStore &, const Args &, const QString &tech,
+                         const QString &band);
 struct Args
 {
     bool own = false;
@@ -52,7 +53,9 @@ QStringList warned(const QString &text, int times = 1)
 QStringList printed(const char *value, int times = 1)
 {
     return {QLatin1String("out: ")
-            + QStringLiteral("GetChNumFromFreq Not supported value : %1\n").arg(str(value)).repeated(times)};
+            + QStringLiteral("GetChNumFromFreq Not supported value : %1\n")
+                  .arg(str(value))
+                  .repeated(times)};
 }
 
 // Maps every channel of a record onto its base frequency.
@@ -61,7 +64,8 @@ double flat(int, double base, int)
     return base;
 }
 
-const int kInvalidCodes[] = {11, 109, 238, 317, 619, 736, 800, 900, -1, -100, -150, INT_MIN, INT_MAX};
+const int kInvalidCodes[] = {11,  109, 238,  317,  619,     736,    800,
+                             900, -1,  -100, -150, INT_MIN, INT_MAX};
 
 } // namespace
 
@@ -98,20 +102,21 @@ private slots:
         const QString gsm = str("GSM");
         const auto f900 = &ChBandStore::chstdGetGSM_900;
         for (int i = 0; i < ChBand::MaxSubBands; ++i)
-            own->SetBandInfo(gsm, str("Hundred"), 1000 + 10 * i, 1005 + 10 * i, 100.0 + i, 101.0 + i, 100.0 + i, 1,
-                             i % 2 == 0 ? 1 : 0, f900, false);
+            own->SetBandInfo(gsm, str("Hundred"), 1000 + 10 * i, 1005 + 10 * i, 100.0 + i,
+                             101.0 + i, 100.0 + i, 1, i % 2 == 0 ? 1 : 0, f900, false);
         own->SetBandInfo(gsm, str("Negative"), -10, -5, 50.0, 51.0, 50.0, 1, 1, f900, false);
         own->SetBandInfo(gsm, str("Negative"), -3, 4, 60.0, 61.0, 60.0, 1, 0, f900, false);
         own->SetBandInfo(gsm, str("Flat"), 900, 900, 400.0, 600.0, 500.0, 1, 1, &flat, false);
         own->SetBandInfo(gsm, str("Flat"), 0, 19, 400.0, 600.0, 500.0, 1, 1, &flat, false);
         own->SetBandInfo(gsm, str("Near"), 1, 1, 0.5, 2.0, 0.75, 1, 1, &flat, false);
         own->SetBandInfo(gsm, str("Near"), 2, 2, 0.5, 2.0, 1.5, 1, 1, &flat, false);
-        own->SetBandInfo(gsm, str("Top"), INT_MAX - 2, INT_MAX, 600.0, 800.0, 700.0, 1, 1, &flat, false);
+        own->SetBandInfo(gsm, str("Top"), INT_MAX - 2, INT_MAX, 600.0, 800.0, 700.0, 1, 1, &flat,
+                         false);
         own->SetBandInfo(gsm, str("DownFirst"), 100, 200, 900.0, 920.0, 900.0, 1, 0, f900, false);
         own->SetBandInfo(gsm, str("DownFirst"), 300, 400, 950.0, 970.0, 950.0, 1, 1, f900, false);
         own->Technologies[1].BandIndexMap.insert(str("Empty"), own->Technologies[1].NumBand++);
-        own->SetBandInfo(str("WIMAX"), str("ProfR1 (1.25 2150)"), 100, 107, 2250.625, 2259.375, 2250.625, 3, 0,
-                         &ChBandStore::chstdGetWIMAX_Common1, false);
+        own->SetBandInfo(str("WIMAX"), str("ProfR1 (1.25 2150)"), 100, 107, 2250.625, 2259.375,
+                         2250.625, 3, 0, &ChBandStore::chstdGetWIMAX_Common1, false);
         own->SetBandInfo(str("TD-SCDMA"), QString(), 1, 2, 10.0, 20.0, 10.0, 1, 1, f900, false);
         own->SetBandInfo(str("TD-SCDMA"), QString(), 5, 6, 10.0, 20.0, 10.0, 1, 0, f900, false);
         own->Technologies[0].BandIndexMap.insert(str("Neg"), -5);
@@ -127,24 +132,28 @@ private slots:
         // check of the text form.
         columns([](auto &s, auto &, auto &t, auto &) {
             const QStringList parts = t.split(str(" - "));
-            return nums({parts.size() > 1 ? s.GetEnumulator(parts[0], parts[1]) : -1, s.IsChannelStandard(t)});
+            return nums({parts.size() > 1 ? s.GetEnumulator(parts[0], parts[1]) : -1,
+                         s.IsChannelStandard(t)});
         });
         const auto names = [](const char *text, int code, const char *warning = "") {
             const int calls = str(text).contains(str(" - ")) ? 2 : 1;
-            row(*text ? text : "empty", {false, text}, qPrintable(nums({code, code >= 0})), warned(str(warning), calls));
+            row(*text ? text : "empty", {false, text}, qPrintable(nums({code, code >= 0})),
+                warned(str(warning), calls));
         };
         names("CDMA - Band 0 (800)", 0);
         names("LTE-FDD - Band 20 (800)", 217);
         names("GSM - GSM 850 - x", 102); // parts after the second are ignored
         names("LTE - x", -1, "Tech Name is invalid.( \"LTE\" )"); // the band is not looked at
         names("lte-fdd - Band 1 (2100)", -1, "Tech Name is invalid.( \"lte-fdd\" )");
-        names("LTE-FDD - Band 1 (2100-General)", -1, "Band Name is invalid.( \"Band 1 (2100-General)\" )");
+        names("LTE-FDD - Band 1 (2100-General)", -1,
+              "Band Name is invalid.( \"Band 1 (2100-General)\" )");
         names("GSM - gsm 850", -1, "Band Name is invalid.( \"gsm 850\" )");
         names("GSM - GSM 850 ", -1, "Band Name is invalid.( \"GSM 850 \" )");
         names("GSM -  - GSM 850", -1, "Band Name is invalid.( \"\" )");
         names("say \"GSM\\ - GSM 850", -1, "Tech Name is invalid.( \"say \\\"GSM\\\\\" )");
         names("GSM - Bänd\t€", -1, "Band Name is invalid.( \"Bänd\\t€\" )");
-        names("LTE-TDD-Band 40 (2300)", -1, "Channel Standard is invalid.( \"LTE-TDD-Band 40 (2300)\" )");
+        names("LTE-TDD-Band 40 (2300)", -1,
+              "Channel Standard is invalid.( \"LTE-TDD-Band 40 (2300)\" )");
         names("GSM 850", -1, "Channel Standard is invalid.( \"GSM 850\" )");
         names("", -1, "Channel Standard is invalid.( \"\" )");
     }
@@ -155,7 +164,8 @@ private slots:
     {
         const int bandCounts[] = {11, 9, 38, 17, 9, 33, 19, 36};
         LogCapture log;
-        for (auto it = global.TechIndexMap.constBegin(); it != global.TechIndexMap.constEnd(); ++it) {
+        for (auto it = global.TechIndexMap.constBegin(); it != global.TechIndexMap.constEnd();
+             ++it) {
             const QList<QString> list = global.GetBandList(it.key());
             QCOMPARE(list.size(), bandCounts[it.value()]);
             QCOMPARE(global.GetNumBand(it.key()), bandCounts[it.value()]);
@@ -164,7 +174,8 @@ private slots:
                 QCOMPARE(global.GetEnumulator(it.key(), list[slot]), code);
                 QCOMPARE(global.GetEnumulator(code), it.key() + str(" - ") + list[slot]);
                 QCOMPARE(global.GetBandName(code), list[slot]);
-                QCOMPARE(nums({global.GetTech(code), global.GetBand(code), global.IsChannelStandard(code)}),
+                QCOMPARE(nums({global.GetTech(code), global.GetBand(code),
+                               global.IsChannelStandard(code)}),
                          nums({it.value(), slot, true}));
             }
         }
@@ -183,9 +194,13 @@ private slots:
             LogCapture log;
             QCOMPARE(global.GetEnumulator(code), QString());
             QCOMPARE(log.take(), QStringList());
-            QCOMPARE(nums({global.GetTech(code), global.GetBand(code), global.IsChannelStandard(code)}), str("-1 -1 0"));
+            QCOMPARE(
+                nums({global.GetTech(code), global.GetBand(code), global.IsChannelStandard(code)}),
+                str("-1 -1 0"));
             QCOMPARE(global.GetBandName(code), str("None"));
-            QCOMPARE(log.take(), warned(QStringLiteral("Channel Standard Enum is invalid.( %1 )").arg(code), 4));
+            QCOMPARE(
+                log.take(),
+                warned(QStringLiteral("Channel Standard Enum is invalid.( %1 )").arg(code), 4));
         }
     }
 
@@ -203,7 +218,8 @@ private slots:
         QCOMPARE(own->GetEnumulator(str("TD-SCDMA"), QString()), 409);
         QVERIFY(own->IsChannelStandard(str("TD-SCDMA - ")));
         QCOMPARE(own->GetEnumulator(409), QString());
-        QCOMPARE(own->GetBandList(str("CDMA")), global.GetBandList(str("CDMA")) << QString() << str("Gap"));
+        QCOMPARE(own->GetBandList(str("CDMA")), global.GetBandList(str("CDMA"))
+                                                    << QString() << str("Gap"));
         QCOMPARE(log.take(), QStringList());
         QCOMPARE(own->GetEnumulator(str("CDMA"), str("Neg")), -1);
         QVERIFY(!own->IsChannelStandard(-5));
@@ -222,13 +238,16 @@ private slots:
             const ChTechnology &tech = global.Technologies[t];
             for (int b = 0; b < tech.NumBand; ++b) {
                 const QString &name = tech.Bands[b].BandName;
-                QCOMPARE(nums({global.CheckChannelStandardIsLTETDD(name), global.CheckChannelStandardIsTDS(name),
+                QCOMPARE(nums({global.CheckChannelStandardIsLTETDD(name),
+                               global.CheckChannelStandardIsTDS(name),
                                global.CheckChannelStandardIsWiMax(name)}),
-                         nums({t == 3 || tech.Bands[b].IsGlobal, t == 4, t == 6 && tech.Bands[b].NumSubBand == 1}));
+                         nums({t == 3 || tech.Bands[b].IsGlobal, t == 4,
+                               t == 6 && tech.Bands[b].NumSubBand == 1}));
             }
         }
         for (const char *other : {"LTE-TDD - Band 40 (2300)", "FBN 9", "band global", ""})
-            QVERIFY(!global.CheckChannelStandardIsLTETDD(str(other)) && !global.CheckChannelStandardIsTDS(str(other))
+            QVERIFY(!global.CheckChannelStandardIsLTETDD(str(other))
+                    && !global.CheckChannelStandardIsTDS(str(other))
                     && !global.CheckChannelStandardIsWiMax(str(other)));
         QCOMPARE(log.take(), QStringList());
     }
@@ -236,19 +255,20 @@ private slots:
     void defaultIntBW()
     {
         QStringList hertz;
-        for (const char *name : {"CDMA", "GSM", "WCDMA", "LTE-FDD", "LTE-TDD", "TD-SCDMA", "WIMAX", "5G NR", "gsm", ""})
+        for (const char *name : {"CDMA", "GSM", "WCDMA", "LTE-FDD", "LTE-TDD", "TD-SCDMA", "WIMAX",
+                                 "5G NR", "gsm", ""})
             hertz << Num(global.GetDefaultIntBW(str(name))).text;
-        QCOMPARE(hertz.join(QLatin1Char(' ')),
-                 str("1230000 300000 3840000 10000000 10000000 1280000 10000000 1000000 1000000 1000000"));
+        QCOMPARE(hertz.join(QLatin1Char(' ')), str("1230000 300000 3840000 10000000 10000000 "
+                                                   "1280000 10000000 1000000 1000000 1000000"));
     }
 
     void limits_data()
     {
         // MHz low and high, channels first and last, records, record 0's MHz and flag.
         columns([](auto &s, auto &a, auto &t, auto &b) {
-            return nums({s.GetStartFreq(t, b, a.link), s.GetStopFreq(t, b, a.link), s.GetStartChannelNo(t, b, a.link),
-                         s.GetStopChannelNo(t, b, a.link), s.GetNumSubBand(t, b), s.GetStartFreq(t, b),
-                         s.IsUplinkOnly(t, b)});
+            return nums({s.GetStartFreq(t, b, a.link), s.GetStopFreq(t, b, a.link),
+                         s.GetStartChannelNo(t, b, a.link), s.GetStopChannelNo(t, b, a.link),
+                         s.GetNumSubBand(t, b), s.GetStartFreq(t, b), s.IsUplinkOnly(t, b)});
         });
         row("GSM 850 up", {0, "GSM", "GSM 850", 1}, "824 849 128 251 2 824 0");
         row("GSM 850 down", {0, "GSM", "GSM 850", 0}, "869 894 128 251 2 824 0");
@@ -259,10 +279,13 @@ private slots:
         // the other link answers instead.
         row("global up", {0, "LTE-FDD", "Band Global", 1}, "1 3490 18000 133521 72 1920 0");
         row("placeholder up", {0, "LTE-FDD", "Band 29 (900)", 1}, "1 1 9660 9769 2 1 0");
-        row("placeholder down", {0, "5G NR", "Band n80 (UL 1800)", 0}, "1 1 342000 357000 2 1710 0");
-        row("n41: flag on record 1", {0, "5G NR", "Band n41 (TD 2500)", 1}, "1 1 499200 537999 2 1 0");
+        row("placeholder down", {0, "5G NR", "Band n80 (UL 1800)", 0},
+            "1 1 342000 357000 2 1710 0");
+        row("n41: flag on record 1", {0, "5G NR", "Band n41 (TD 2500)", 1},
+            "1 1 499200 537999 2 1 0");
         row("TDD", {0, "LTE-TDD", "Band 33 (1900)", 1}, "1900 1920 36000 36199 2 1900 1");
-        row("single record, other link", {0, "WIMAX", "ProfR29 (8.75 2304)", 0}, "0 0 0 730 1 2304.375 1");
+        row("single record, other link", {0, "WIMAX", "ProfR29 (8.75 2304)", 0},
+            "0 0 0 730 1 2304.375 1");
         row("link 2 falls back to 0", {0, "LTE-FDD", "Band 3 (1800)", 2}, "0 0 1200 1949 2 1710 0");
         row("empty band name", {0, "GSM", "", 1}, "450.4 457.6 259 293 2 450.4 0");
         row("unknown names", {0, "Foo", "Bar", 1}, "824 849 1 1023 4 824 0");
@@ -276,7 +299,8 @@ private slots:
     void channelToFreq_data()
     {
         columns([](auto &s, auto &a, auto &t, auto &b) {
-            return nums({s.GetFreq(t, b, a.link, a.channel), s.GetFreqNoLimit(t, b, a.link, a.channel),
+            return nums({s.GetFreq(t, b, a.link, a.channel),
+                         s.GetFreqNoLimit(t, b, a.link, a.channel),
                          s.IsExistChannelNo(t, b, a.link, a.channel)});
         });
         row("first up", {0, "GSM", "GSM 850", 1, 128}, "824.2 824.2 1");
@@ -291,7 +315,8 @@ private slots:
         // and the first one holding the channel wins, even before a placeholder
         // of the asked link.
         row("global, link 2", {0, "LTE-FDD", "Band Global", 2, 300}, "2140 -1 0");
-        row("global, placeholder later", {0, "LTE-FDD", "Band Global", 1, 1}, "2110.1 120.09999999999991 1");
+        row("global, placeholder later", {0, "LTE-FDD", "Band Global", 1, 1},
+            "2110.1 120.09999999999991 1");
         row("NR global, up link", {0, "5G NR", "Band Global", 1, 422000}, "2110 2110 0");
         row("placeholder", {0, "LTE-FDD", "Band 29 (900)", 1, 1}, "-2764.9 -2764.9 1");
         row("past placeholder", {0, "LTE-FDD", "Band 29 (900)", 1, 9660}, "-1 -1799 0");
@@ -309,7 +334,9 @@ private slots:
     void stopInSample_data()
     {
         // Note the argument order: channel before link.
-        columns([](auto &s, auto &a, auto &t, auto &b) { return QString::number(s.GetStopChannelNo_InSample(t, b, a.channel, a.link)); });
+        columns([](auto &s, auto &a, auto &t, auto &b) {
+            return QString::number(s.GetStopChannelNo_InSample(t, b, a.channel, a.link));
+        });
         row("in no record: record 0", {0, "GSM", "GSM 850", 1, 300}, "251");
         row("second pair, down", {0, "CDMA", "Band 0 (800)", 0, 1000}, "1023");
         row("channel and link swapped", {0, "CDMA", "Band 0 (800)", 1000, 1}, "799");
@@ -331,15 +358,19 @@ private slots:
     // A miss writes its one line to standard output, never to the Qt log.
     void channelOfFreq_data()
     {
-        columns([](auto &s, auto &a, auto &t, auto &b) { return QString::number(s.GetChNumFromFreq(t, b, a.link, a.mhz, a.preferred)); });
+        columns([](auto &s, auto &a, auto &t, auto &b) {
+            return QString::number(s.GetChNumFromFreq(t, b, a.link, a.mhz, a.preferred));
+        });
         // The unused entries of the list (-1) are no candidates.
         row("first channel", {0, "GSM", "GSM 850", 1, 0, 824.2, -1}, "128");
         row("last channel", {0, "GSM", "GSM 850", 0, 0, 893.8000000000001, 251}, "251");
         row("off raster", {0, "GSM", "GSM 850", 1, 0, 824.3, -1}, "-1", printed("824.3"));
-        row("one ulp off", {0, "GSM", "GSM 850", 1, 0, std::nextafter(824.2, 900.0), 128}, "-1", printed("824.2"));
+        row("one ulp off", {0, "GSM", "GSM 850", 1, 0, std::nextafter(824.2, 900.0), 128}, "-1",
+            printed("824.2"));
         row("uplink-only, down", {0, "WIMAX", "ProfR26 (10 5275)", 0, 0, 5335.0, -1}, "67");
         // Channel 55 maps to 3698 MHz, beyond the record's upper edge.
-        row("beyond the edge", {0, "WIMAX", "ProfR9 (3.5 3651)", 1, 0, 3698.0, -1}, "-1", printed("3698"));
+        row("beyond the edge", {0, "WIMAX", "ProfR9 (3.5 3651)", 1, 0, 3698.0, -1}, "-1",
+            printed("3698"));
         row("placeholder", {0, "LTE-FDD", "Band 29 (900)", 1, 0, 1.0, 1}, "-1", printed("1"));
         row("shared, no preference", {0, "LTE-FDD", "Band Global", 0, 0, 2140.0, -1}, "300");
         row("shared, preferred", {0, "LTE-FDD", "Band Global", 0, 0, 2140.0, 66736}, "66736");
@@ -352,7 +383,8 @@ private slots:
         row("tenth kept", {1, "GSM", "Flat", 1, 0, 500.0, 8}, "8");
         row("eleventh dropped", {1, "GSM", "Flat", 1, 0, 500.0, 9}, "900");
         row("within epsilon", {1, "GSM", "Near", 1, 0, std::nextafter(0.75, 1.0), -1}, "1");
-        row("at epsilon", {1, "GSM", "Near", 1, 0, std::nextafter(1.5, 2.0), -1}, "-1", printed("1.5"));
+        row("at epsilon", {1, "GSM", "Near", 1, 0, std::nextafter(1.5, 2.0), -1}, "-1",
+            printed("1.5"));
         row("up to INT_MAX", {1, "GSM", "Top", 1, 0, 700.0, -1}, "2147483645");
         row("INT_MAX preferred", {1, "GSM", "Top", 1, 0, 700.0, INT_MAX}, "2147483647");
         row("no records", {1, "GSM", "Empty", 1, 0, 500.0, -1}, "-1", printed("500"));
@@ -362,7 +394,9 @@ private slots:
     // Uplink start channel minus downlink start channel; the link is not read.
     void offset_data()
     {
-        columns([](auto &s, auto &a, auto &t, auto &b) { return QString::number(s.GetOffsetChUpDown(t, b, a.channel, a.link)); });
+        columns([](auto &s, auto &a, auto &t, auto &b) {
+            return QString::number(s.GetOffsetChUpDown(t, b, a.channel, a.link));
+        });
         row("down channel", {0, "LTE-FDD", "Band 1 (2100)", 0, 300}, "18000");
         row("up channel, link not consulted", {0, "LTE-FDD", "Band 1 (2100)", 7, 18300}, "18000");
         row("channel and link swapped", {0, "LTE-FDD", "Band 3 (1800)", 1300, 0}, "0");
@@ -391,18 +425,22 @@ private slots:
         // preferred one.
         columns([](auto &s, auto &a, auto &t, auto &b) {
             const int c = a.channel;
-            return a.band ? nums({s.GetFreq(t, b, c), s.GetChNumFromFreq(t, b, a.mhz, c), s.GetOffsetChUpDown(t, b, c)})
+            return a.band ? nums({s.GetFreq(t, b, c), s.GetChNumFromFreq(t, b, a.mhz, c),
+                                  s.GetOffsetChUpDown(t, b, c)})
                           : nums({s.GetFreq(t, a.link, c), s.GetChNumFromFreq(t, a.link, a.mhz, c),
                                   s.GetOffsetChUpDown(t, a.link, c)});
         });
         const QStringList invalid = warned(str("Channel Standard is invalid.( \"GSM 850\" )"), 3);
         row("link 0", {0, "GSM - GSM 850", nullptr, 0, 128, 869.2}, "869.2 128 0");
         row("Forward", {0, "GSM - GSM 850", "Forward", 9, 128, 869.2}, "869.2 128 0");
-        row("forward", {0, "GSM - GSM 850", "forward", 0, 128, 869.2}, "824.2 -1 0", printed("869.2"));
+        row("forward", {0, "GSM - GSM 850", "forward", 0, 128, 869.2}, "824.2 -1 0",
+            printed("869.2"));
         row("empty direction", {0, "GSM - GSM 850", "", 0, 128, 824.2}, "824.2 128 0");
         row("empty band part", {0, "GSM -  - GSM 850", nullptr, 1, 259, 450.6}, "450.6 259 0");
-        row("link form, band 3", {0, "LTE-FDD - Band 3 (1800)", nullptr, 0, 1300, 1815.0}, "1815 1300 18000");
-        row("Reverse, band 3", {0, "LTE-FDD - Band 3 (1800)", "Reverse", 0, 19300, 1720.0}, "1720 19300 18000");
+        row("link form, band 3", {0, "LTE-FDD - Band 3 (1800)", nullptr, 0, 1300, 1815.0},
+            "1815 1300 18000");
+        row("Reverse, band 3", {0, "LTE-FDD - Band 3 (1800)", "Reverse", 0, 19300, 1720.0},
+            "1720 19300 18000");
         row("no separator", {0, "GSM 850", nullptr, 1, 128, 824.2}, "-1 -1 -1", invalid);
         // The split fails before the frequency is looked at.
         row("no separator, NaN", {0, "GSM 850", "Forward", 1, 128, kNaN}, "-1 -1 -1", invalid);
@@ -420,18 +458,22 @@ private slots:
         // and frequency.
         columns([](auto &s, auto &a, auto &, auto &) {
             const int code = a.preferred, l = a.link, c = a.channel;
-            return nums({s.GetNumSubBand(code), s.GetStartChannelNo(code, l), s.GetStopChannelNo(code, l),
-                         s.GetChNumFromFreq(code, l, a.mhz, c), s.GetDefaultIntBW(code), s.IsUplinkOnly(code),
-                         s.GetStartFreq(code), s.GetStartFreq(code, l), s.GetStopFreq(code, l),
-                         s.IsExistChannelNo(code, l, c), s.GetOffsetChUpDown(code, l, c), s.GetFreq(code, l, c)});
+            return nums({s.GetNumSubBand(code), s.GetStartChannelNo(code, l),
+                         s.GetStopChannelNo(code, l), s.GetChNumFromFreq(code, l, a.mhz, c),
+                         s.GetDefaultIntBW(code), s.IsUplinkOnly(code), s.GetStartFreq(code),
+                         s.GetStartFreq(code, l), s.GetStopFreq(code, l),
+                         s.IsExistChannelNo(code, l, c), s.GetOffsetChUpDown(code, l, c),
+                         s.GetFreq(code, l, c)});
         });
-        row("102", {0, nullptr, nullptr, 1, 128, 824.3, 102}, "2 128 251 -1 300000 0 824 824 849 1 0 824.2",
-            printed("824.3"));
+        row("102", {0, nullptr, nullptr, 1, 128, 824.3, 102},
+            "2 128 251 -1 300000 0 824 824 849 1 0 824.2", printed("824.3"));
         // Channel and link change places on the way to the name form.
-        row("203", {0, nullptr, nullptr, 0, 1300, 1815.0, 203}, "2 1200 1949 1300 10000000 0 1710 1805 1880 1 18000 1815");
+        row("203", {0, nullptr, nullptr, 0, 1300, 1815.0, 203},
+            "2 1200 1949 1300 10000000 0 1710 1805 1880 1 18000 1815");
         row("735", {0, nullptr, nullptr, 0, 2070833, 27500.04, 735},
             "2 2070833 2084999 2070833 1000000 0 1 27500 28350 1 -2070832 27500.04");
-        row("115, no records", {1, nullptr, nullptr, 1, 0, 0.0, 115}, "0 0 0 -1 300000 0 0 0 0 0 0 -1", printed("0"));
+        row("115, no records", {1, nullptr, nullptr, 1, 0, 0.0, 115},
+            "0 0 0 -1 300000 0 0 0 0 0 0 -1", printed("0"));
         for (const int code : kInvalidCodes)
             row(qPrintable(QString::number(code)), {0, nullptr, nullptr, 1, 128, 824.2, code},
                 "-1 -1 -1 -1 -1 1 -1 -1 -1 0 -1 -1",

@@ -12,7 +12,8 @@ const double kInf = std::numeric_limits<double>::infinity();
 // the private store of initTestCase; `call` makes the call and gives its
 // answer as one string.
 struct Args;
-using Call = QString (*)(const ChBandStore &, const Args &, const QString &tech, const QString &band);
+using Call = QString (*)(const ChBandStore &, const Args &, const QString &tech,
+                         const QString &band);
 struct Args
 {
     bool own = false;
@@ -44,8 +45,8 @@ QString render(const QList<ChInfo> &hits)
 {
     QStringList out;
     for (const ChInfo &h : hits)
-        out << QString::asprintf("%s|%s|%d|%d|%g", qPrintable(h.techName), qPrintable(h.bandName), h.linkDirection,
-                                 h.channelNo, h.freqOffset)
+        out << QString::asprintf("%s|%s|%d|%d|%g", qPrintable(h.techName), qPrintable(h.bandName),
+                                 h.linkDirection, h.channelNo, h.freqOffset)
                    + (h.reserved ? QStringLiteral("|reserved %1").arg(h.reserved) : QString());
     return out.join(QLatin1String("; "));
 }
@@ -57,7 +58,8 @@ QString render(const QList<int> &channels)
     for (int i = 0, n = 1; i < channels.size(); i += n, n = 1) {
         while (i + n < channels.size() && channels[i + n] == channels[i] + n)
             ++n;
-        out << QString::number(channels[i]) + (n > 1 ? QStringLiteral("..%1").arg(channels[i + n - 1]) : QString());
+        out << QString::number(channels[i])
+                   + (n > 1 ? QStringLiteral("..%1").arg(channels[i + n - 1]) : QString());
     }
     return out.join(QLatin1Char(' '));
 }
@@ -106,28 +108,34 @@ private slots:
         own->SetBandInfo(gsm, band, 0, 8, 50000.0, 50010.0, 50000.0, 0, 0, step125, false);
         own->SetBandInfo(gsm, band, 0, 3, 50000.0, 50100.0, 50004.5, 0, 1, step125, false);
         own->SetBandInfo(str("CDMA"), band, 0, 8, 50000.0, 50010.0, 50000.0, 0, 0, step125, false);
-        own->SetBandInfo(str("LTE-FDD"), str("Band Global"), 0, 8, 50000.0, 50010.0, 50000.0, 0, 0, step125, false);
-        own->SetBandInfo(gsm, str("Edge band"), INT_MAX - 2, INT_MAX, 59990.0, 60010.0, 60000.0 - 2147483646.0 * 1.25,
-                         0, 1, step125, false);
+        own->SetBandInfo(str("LTE-FDD"), str("Band Global"), 0, 8, 50000.0, 50010.0, 50000.0, 0, 0,
+                         step125, false);
+        own->SetBandInfo(gsm, str("Edge band"), INT_MAX - 2, INT_MAX, 59990.0, 60010.0,
+                         60000.0 - 2147483646.0 * 1.25, 0, 1, step125, false);
         own->SetBandInfo(gsm, str("Three"), 1, 2, 100.0, 101.0, 100.0, 1, 1, f, false);
         own->SetBandInfo(gsm, str("Three"), 3, 4, 200.0, 201.0, 200.0, 1, 0, f, false);
         own->SetBandInfo(gsm, str("Three"), 5, 6, 100.0, 101.0, 100.0, 1, 1, f, false);
         for (int i = 0; i < 24; ++i)
-            own->SetBandInfo(gsm, str("Many"), 10 * i, 10 * i + 5, 100.0, 200.0, i % 2 ? 200.0 : 100.0, 1,
-                             i % 2 ? 0 : 1, f, false);
+            own->SetBandInfo(gsm, str("Many"), 10 * i, 10 * i + 5, 100.0, 200.0,
+                             i % 2 ? 200.0 : 100.0, 1, i % 2 ? 0 : 1, f, false);
         own->Technologies[1].BandIndexMap.insert(str("Empty"), own->Technologies[1].NumBand++);
-        for (int i = 0; i < 24; ++i) // channel i at exactly 70000 MHz: ties beyond a short sort's reach
-            own->SetBandInfo(gsm, str("Crowd"), i, i, 69990.0, 70010.0, 70000.0 - 1.25 * i, 0, 1, step125, false);
+        for (int i = 0; i < 24;
+             ++i) // channel i at exactly 70000 MHz: ties beyond a short sort's reach
+            own->SetBandInfo(gsm, str("Crowd"), i, i, 69990.0, 70010.0, 70000.0 - 1.25 * i, 0, 1,
+                             step125, false);
     }
 
     void search_data()
     {
-        columns([](auto &s, auto &a, auto &, auto &) { return render(s.GetChInfoFromFreq(a.low)); });
+        columns(
+            [](auto &s, auto &a, auto &, auto &) { return render(s.GetChInfoFromFreq(a.low)); });
         // Exact hits across technologies keep technology order; the 0.1 MHz
         // misses of GSM and WCDMA tie as well and follow.
         row("1842.5, ties across technologies", {0, nullptr, nullptr, 0, 1842.5},
-            "CDMA|Band 4 (KR PCS)|0|50|0; CDMA|Band 8 (1800)|0|750|0; LTE-FDD|Band 3 (1800)|0|1575|0; "
-            "5G NR|Band n3 (1800)|0|368500|0; GSM|DCS 1800|0|698|-0.1; WCDMA|Band 3 (1800-General)|0|1337|-0.1");
+            "CDMA|Band 4 (KR PCS)|0|50|0; CDMA|Band 8 (1800)|0|750|0; LTE-FDD|Band 3 "
+            "(1800)|0|1575|0; "
+            "5G NR|Band n3 (1800)|0|368500|0; GSM|DCS 1800|0|698|-0.1; WCDMA|Band 3 "
+            "(1800-General)|0|1337|-0.1");
         // Both LTE-TDD directions hold 3500: uplink record first. The 1.25 MHz
         // WiMAX raster puts 3500 halfway between channels 79 and 80: 79 wins.
         row("3500, TDD directions and halfway", {0, nullptr, nullptr, 0, 3500.0},
@@ -140,48 +148,62 @@ private slots:
         // no channel, so it comes last though it was scanned first; the global
         // band is never reported.
         row("exact ties, then -0.5, then no channel", {1, nullptr, nullptr, 0, 50005.0},
-            "CDMA|Test band|0|4|0; GSM|Test band|1|4|0; GSM|Test band|0|4|0; GSM|Test band|1|0|-0.5; "
+            "CDMA|Test band|0|4|0; GSM|Test band|1|4|0; GSM|Test band|0|4|0; GSM|Test "
+            "band|1|0|-0.5; "
             "GSM|Test band|-1|-1|2e+09");
         row("lower limit", {1, nullptr, nullptr, 0, 50000.0},
-            "CDMA|Test band|0|0|0; GSM|Test band|1|0|0; GSM|Test band|0|0|0; GSM|Test band|1|0|4.5; "
+            "CDMA|Test band|0|0|0; GSM|Test band|1|0|0; GSM|Test band|0|0|0; GSM|Test "
+            "band|1|0|4.5; "
             "GSM|Test band|-1|-1|2e+09");
         row("upper limit, far from every channel", {1, nullptr, nullptr, 0, 50100.0},
             "GSM|Test band|1|3|-91.75; GSM|Test band|-1|-1|2e+09");
-        row("channels up to INT_MAX", {1, nullptr, nullptr, 0, 60000.0}, "GSM|Edge band|1|2147483646|0");
+        row("channels up to INT_MAX", {1, nullptr, nullptr, 0, 60000.0},
+            "GSM|Edge band|1|2147483646|0");
         QStringList crowd;
         for (int i = 0; i < 24; ++i)
             crowd << QStringLiteral("GSM|Crowd|1|%1|0").arg(i);
-        row("24 ties keep record order", {1, nullptr, nullptr, 0, 70000.0}, qPrintable(crowd.join(QLatin1String("; "))));
+        row("24 ties keep record order", {1, nullptr, nullptr, 0, 70000.0},
+            qPrintable(crowd.join(QLatin1String("; "))));
     }
     void search() { check(); }
 
     // Every call but a malformed one logs its count as one debug line.
     void availableChannels_data()
     {
-        columns([](auto &s, auto &a, auto &t, auto &b) { return render(s.GetAvailableChannels(t, b, a.low, a.high)); });
-        const char *gsm850 = "GSM - GSM 850", *r1 = "WIMAX - ProfR1 (1.25 2150)", *n1 = "5G NR - Band n1 (2100)";
-        row("both bounds inclusive", {0, gsm850, "Forward", 0, 869.2, 869.6}, "128..130", counted(3));
-        row("exact raster, inclusive", {0, r1, "Reverse", 0, 2151.875, 2155.625}, "1..4", counted(4));
-        row("just above a channel", {0, r1, "Reverse", 0, 2151.8750001, 2155.6249999}, "2..3", counted(2));
-        row("lower-case forward is uplink", {0, gsm850, "forward", 0, 824.2, 824.6}, "128..130", counted(3));
+        columns([](auto &s, auto &a, auto &t, auto &b) {
+            return render(s.GetAvailableChannels(t, b, a.low, a.high));
+        });
+        const char *gsm850 = "GSM - GSM 850", *r1 = "WIMAX - ProfR1 (1.25 2150)",
+                   *n1 = "5G NR - Band n1 (2100)";
+        row("both bounds inclusive", {0, gsm850, "Forward", 0, 869.2, 869.6}, "128..130",
+            counted(3));
+        row("exact raster, inclusive", {0, r1, "Reverse", 0, 2151.875, 2155.625}, "1..4",
+            counted(4));
+        row("just above a channel", {0, r1, "Reverse", 0, 2151.8750001, 2155.6249999}, "2..3",
+            counted(2));
+        row("lower-case forward is uplink", {0, gsm850, "forward", 0, 824.2, 824.6}, "128..130",
+            counted(3));
         // 991..1023 (824.04 to 825.00 MHz) is the second uplink record: not offered.
-        row("first record of the direction only", {0, "CDMA - Band 0 (800)", "Reverse", 0, 824.0, 825.1}, "1..3",
+        row("first record of the direction only",
+            {0, "CDMA - Band 0 (800)", "Reverse", 0, 824.0, 825.1}, "1..3", counted(3));
+        row("unknown names select CDMA Band 0", {0, "Foo - Bar", "Forward", 0, 870.0, 870.07},
+            "1..2", counted(2));
+        row("parts after the second ignored",
+            {0, "LTE-FDD - Band 1 (2100) - x", "Forward", 0, 2110.0, 2110.25}, "0..2", counted(3));
+        row("formula counts from the first channel", {0, n1, "Forward", 0, 2110.0, 2110.012},
+            "422000..422002", counted(3));
+        row("record limits not consulted", {0, n1, "Forward", 0, 2169.99, 2170.0}, "433998..434000",
             counted(3));
-        row("unknown names select CDMA Band 0", {0, "Foo - Bar", "Forward", 0, 870.0, 870.07}, "1..2", counted(2));
-        row("parts after the second ignored", {0, "LTE-FDD - Band 1 (2100) - x", "Forward", 0, 2110.0, 2110.25}, "0..2",
-            counted(3));
-        row("formula counts from the first channel", {0, n1, "Forward", 0, 2110.0, 2110.012}, "422000..422002",
-            counted(3));
-        row("record limits not consulted", {0, n1, "Forward", 0, 2169.99, 2170.0}, "433998..434000", counted(3));
         row("no record of the direction", {0, r1, "Forward", 0, 0.0, 1e9}, "", counted(0));
         row("low above high", {0, gsm850, "Forward", 0, 893.8, 869.2}, "", counted(0));
         row("NaN low", {0, gsm850, "Forward", 0, kNaN, 900.0}, "", counted(0));
         row("infinite window", {0, gsm850, "Forward", 0, -kInf, kInf}, "128..251", counted(124));
         // The first downlink record is the one whose first channel exceeds its
         // last; the later, well-formed downlink record is not offered.
-        row("malformed first record", {1, "GSM - Test band", "Forward", 0, 0.0, 1e9}, "", counted(0));
-        row("up to INT_MAX", {1, "GSM - Edge band", "Reverse", 0, 59999.0, 60002.0}, "2147483646..2147483647",
-            counted(2));
+        row("malformed first record", {1, "GSM - Test band", "Forward", 0, 0.0, 1e9}, "",
+            counted(0));
+        row("up to INT_MAX", {1, "GSM - Edge band", "Reverse", 0, 59999.0, 60002.0},
+            "2147483646..2147483647", counted(2));
         row("no separator", {0, "GSM 850", "Forward", 0, 0.0, 1e9}, "",
             {str("W Channel Standard is invalid.( \"GSM 850\" )")});
     }
@@ -191,24 +213,30 @@ private slots:
     void refStrings_data()
     {
         columns([](auto &s, auto &a, auto &t, auto &b) {
-            return QStringList{s.GetChNumRefString(t, b, a.link), s.GetChNumRefString_List(t, b, a.link),
-                               s.GetFreqRefString_List(t, b, a.link)}.join(QLatin1String(" | "));
+            return QStringList{s.GetChNumRefString(t, b, a.link),
+                               s.GetChNumRefString_List(t, b, a.link),
+                               s.GetFreqRefString_List(t, b, a.link)}
+                .join(QLatin1String(" | "));
         });
         const char *b0 = "Band 0 (800)";
         // Non-paired: records 0, 2, ... whatever the selector; frequencies follow it.
         row("CDMA uplink", {0, "CDMA", b0, 1},
-            "(1 - 799 /991 - 1023 ) | (1 - 799)\n(991 - 1023) | (825.03 - 848.97)\n(824.04 - 825.00)");
+            "(1 - 799 /991 - 1023 ) | (1 - 799)\n(991 - 1023) | (825.03 - 848.97)\n(824.04 - "
+            "825.00)");
         row("CDMA selector 2", {0, "CDMA", b0, 2},
             "(1 - 799 /991 - 1023 ) | (1 - 799)\n(991 - 1023) | (-1.00 - -1.00)\n(-1.00 - -1.00)");
         row("GSM 935.00", {0, "GSM", "E-GSM 900", 0},
-            "(0 - 124 /975 - 1023 ) | (0 - 124)\n(975 - 1023) | (935.00 - 959.80)\n(925.20 - 934.80)");
+            "(0 - 124 /975 - 1023 ) | (0 - 124)\n(975 - 1023) | (935.00 - 959.80)\n(925.20 - "
+            "934.80)");
         // Time-division: every record is eligible, so any selector converts.
         row("LTE-TDD selector 7", {0, "LTE-TDD", "Band 42 (3400)", 7},
             "(41590 - 43589 ) | (41590 - 43589) | (3400.00 - 3599.90)");
         // One record gives one range; an exact x.xx5 rounds away from zero.
-        row("WIMAX one record", {0, "WIMAX", "ProfR1 (1.25 2150)", 0}, "(0 - 7 ) | (0 - 7) | (2150.63 - 2159.38)");
+        row("WIMAX one record", {0, "WIMAX", "ProfR1 (1.25 2150)", 0},
+            "(0 - 7 ) | (0 - 7) | (2150.63 - 2159.38)");
         // Paired: non-zero selects record 0, zero selects record 1.
-        row("LTE-FDD downlink", {0, "LTE-FDD", "Band 1 (2100)", 0}, "(0 - 599) | (0 - 599) | (2110.00 - 2169.90)");
+        row("LTE-FDD downlink", {0, "LTE-FDD", "Band 1 (2100)", 0},
+            "(0 - 599) | (0 - 599) | (2110.00 - 2169.90)");
         row("LTE-FDD selector -3", {0, "LTE-FDD", "Band 1 (2100)", -3},
             "(18000 - 18599) | (18000 - 18599) | (-1.00 - -1.00)");
         row("5G NR 3799.995", {0, "5G NR", "Band n78 (TD 3500)", 0},
@@ -217,16 +245,24 @@ private slots:
         for (const char *tech : {"LTE-FDD", "WCDMA", "5G NR", "CDMA", "Nonsense"})
             row(tech, {0, tech, "Band Global", 1}, "  |   |  ");
         // Not the exact name: slot 0 of LTE-FDD, which is the global band itself.
-        row("band global", {0, "LTE-FDD", "band global", 1}, "(18000 - 18599) | (18000 - 18599) | (1920.00 - 1979.90)");
-        row("unknown technology", {0, "LTE", "Band 1 (NA PCS)", 1}, "(0 - 1199 ) | (0 - 1199) | (1850.00 - 1909.95)");
+        row("band global", {0, "LTE-FDD", "band global", 1},
+            "(18000 - 18599) | (18000 - 18599) | (1920.00 - 1979.90)");
+        row("unknown technology", {0, "LTE", "Band 1 (NA PCS)", 1},
+            "(0 - 1199 ) | (0 - 1199) | (1850.00 - 1909.95)");
         row("no records", {1, "GSM", "Empty", 1}, ") |  | ");
-        row("three records, one range", {1, "GSM", "Three", 1}, "(1 - 2 ) | (1 - 2) | (100.20 - 100.40)");
+        row("three records, one range", {1, "GSM", "Three", 1},
+            "(1 - 2 ) | (1 - 2) | (100.20 - 100.40)");
         row("twelve ranges, no limit", {1, "GSM", "Many", 1},
-            "(0 - 5 /20 - 25 /40 - 45 /60 - 65 /80 - 85 /100 - 105 /120 - 125 /140 - 145 /160 - 165 /180 - 185 "
-            "/200 - 205 /220 - 225 ) | (0 - 5)\n(20 - 25)\n(40 - 45)\n(60 - 65)\n(80 - 85)\n(100 - 105)\n"
-            "(120 - 125)\n(140 - 145)\n(160 - 165)\n(180 - 185)\n(200 - 205)\n(220 - 225) | (100.00 - 101.00)\n"
-            "(104.00 - 105.00)\n(108.00 - 109.00)\n(112.00 - 113.00)\n(116.00 - 117.00)\n(120.00 - 121.00)\n"
-            "(124.00 - 125.00)\n(128.00 - 129.00)\n(132.00 - 133.00)\n(136.00 - 137.00)\n(140.00 - 141.00)\n"
+            "(0 - 5 /20 - 25 /40 - 45 /60 - 65 /80 - 85 /100 - 105 /120 - 125 /140 - 145 /160 - "
+            "165 /180 - 185 "
+            "/200 - 205 /220 - 225 ) | (0 - 5)\n(20 - 25)\n(40 - 45)\n(60 - 65)\n(80 - 85)\n(100 - "
+            "105)\n"
+            "(120 - 125)\n(140 - 145)\n(160 - 165)\n(180 - 185)\n(200 - 205)\n(220 - 225) | "
+            "(100.00 - 101.00)\n"
+            "(104.00 - 105.00)\n(108.00 - 109.00)\n(112.00 - 113.00)\n(116.00 - 117.00)\n(120.00 - "
+            "121.00)\n"
+            "(124.00 - 125.00)\n(128.00 - 129.00)\n(132.00 - 133.00)\n(136.00 - 137.00)\n(140.00 - "
+            "141.00)\n"
             "(144.00 - 145.00)");
     }
     void refStrings() { check(); }
@@ -235,9 +271,12 @@ private slots:
     {
         QTest::addColumn<int>("mode");
         QTest::addColumn<QString>("techs");
-        const char *all = "CDMA GSM LTE-FDD LTE-TDD TD-SCDMA WCDMA WIMAX", *fdd = "LTE-FDD LTE-TDD WCDMA";
-        const char *groups[] = {"", all, "", "", all, "", "GSM", "", "WCDMA", "TD-SCDMA", "CDMA", "WIMAX", "CDMA",
-                                "LTE-FDD", "LTE-TDD", "", all, all, "", "", fdd, "", fdd, all, ""};
+        const char *all = "CDMA GSM LTE-FDD LTE-TDD TD-SCDMA WCDMA WIMAX",
+                   *fdd = "LTE-FDD LTE-TDD WCDMA";
+        const char *groups[] = {"",        all,     "",         "",     all,     "",     "GSM",
+                                "",        "WCDMA", "TD-SCDMA", "CDMA", "WIMAX", "CDMA", "LTE-FDD",
+                                "LTE-TDD", "",      all,        all,    "",      "",     fdd,
+                                "",        fdd,     all,        ""};
         for (int mode = 0; mode < int(std::size(groups)); ++mode)
             QTest::addRow("mode %d", mode) << mode << str(groups[mode]);
         for (const int mode : {-1, 100, 701, INT_MIN, INT_MAX})
@@ -277,13 +316,16 @@ private slots:
         QTest::addColumn<int>("count");
         QTest::addColumn<int>("row");
         QTest::addColumn<QString>("cells"); // band, channel range, frequency range
-        QTest::newRow("GSM") << str("GSM") << 9 << 2 << str("GSM 850|(128 - 251)|(824.20 - 848.80)");
+        QTest::newRow("GSM") << str("GSM") << 9 << 2
+                             << str("GSM 850|(128 - 251)|(824.20 - 848.80)");
         // No mode shows 5G NR, but the setters do.
         QTest::newRow("5G NR global") << str("5G NR") << 36 << 0 << str("Band Global| | ");
-        QTest::newRow("5G NR n1") << str("5G NR") << 36 << 1 << str("Band n1 (2100)|(384000 - 396000)|(1920.00 - 1980.00)");
+        QTest::newRow("5G NR n1") << str("5G NR") << 36 << 1
+                                  << str("Band n1 (2100)|(384000 - 396000)|(1920.00 - 1980.00)");
         // An unknown technology lists CDMA's bands but keeps its own name.
-        QTest::newRow("unknown technology") << str("Foo") << 11 << 0
-                                            << str("Band 0 (800)|(1 - 799)\n(991 - 1023)|(825.03 - 848.97)\n(824.04 - 825.00)");
+        QTest::newRow("unknown technology")
+            << str("Foo") << 11 << 0
+            << str("Band 0 (800)|(1 - 799)\n(991 - 1023)|(825.03 - 848.97)\n(824.04 - 825.00)");
     }
 
     void setBandListColumns()
@@ -295,15 +337,19 @@ private slots:
         stCHList list{{x}, {x}, {x}, {x}};
         LogCapture log;
         ChStd::SetBandListName(tech, list);
-        QCOMPARE(nums({list.techList.size(), list.bandList.size(), list.chRangeList.size()}), nums({1, 1 + count, 1}));
+        QCOMPARE(nums({list.techList.size(), list.bandList.size(), list.chRangeList.size()}),
+                 nums({1, 1 + count, 1}));
         ChStd::SetBandListRange(tech, 1, list);
         QCOMPARE(log.take(), QStringList());
-        QCOMPARE(nums({list.techList.size(), list.bandList.size(), list.chRangeList.size(), list.freqRangeList.size(),
-                       list.techList.count(tech)}),
+        QCOMPARE(nums({list.techList.size(), list.bandList.size(), list.chRangeList.size(),
+                       list.freqRangeList.size(), list.techList.count(tech)}),
                  nums({1 + count, 1 + count, 1 + count, 1 + count, count}));
-        QCOMPARE((QStringList{list.techList[0], list.bandList[0], list.chRangeList[0], list.freqRangeList[0]}),
+        QCOMPARE((QStringList{list.techList[0], list.bandList[0], list.chRangeList[0],
+                              list.freqRangeList[0]}),
                  (QStringList{x, x, x, x}));
-        QTEST((QStringList{list.bandList[1 + row], list.chRangeList[1 + row], list.freqRangeList[1 + row]}).join(QLatin1Char('|')),
+        QTEST((QStringList{list.bandList[1 + row], list.chRangeList[1 + row],
+                           list.freqRangeList[1 + row]})
+                  .join(QLatin1Char('|')),
               "cells");
     }
 };

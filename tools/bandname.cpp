@@ -244,8 +244,7 @@ int resolveTech(const QString &text)
                        + QLatin1String("; technologies: ") + techListText());
     if (found.size() > 1)
         throw BadInput(QLatin1String("technology ") + quoted(text)
-                       + QLatin1String(" is ambiguous; it matches: ")
-                       + techNamesText(found, ", "));
+                       + QLatin1String(" is ambiguous; it matches: ") + techNamesText(found, ", "));
     return found.first();
 }
 
@@ -278,11 +277,13 @@ BandRef resolveBand(const QString &text)
         for (int slot : techSlots()) {
             const int n = store().Technologies[slot].NumBand;
             if (n > 0)
-                ranges << QStringLiteral("%1-%2 %3").arg(100 * slot).arg(100 * slot + n - 1)
+                ranges << QStringLiteral("%1-%2 %3")
+                              .arg(100 * slot)
+                              .arg(100 * slot + n - 1)
                               .arg(techName(slot));
         }
-        throw BadInput(QLatin1String("no band has code ") + trimmed
-                       + QLatin1String("; codes: ") + ranges.join(QLatin1String(", ")));
+        throw BadInput(QLatin1String("no band has code ") + trimmed + QLatin1String("; codes: ")
+                       + ranges.join(QLatin1String(", ")));
     }
 
     const int separator = text.indexOf(QLatin1String(" - "));
@@ -291,8 +292,9 @@ BandRef resolveBand(const QString &text)
         const QString tech = text.left(separator);
         const QString band = text.mid(separator + 3);
         if (!store().TechIndexMap.contains(tech))
-            throw BadInput(QLatin1String("unknown technology ") + quoted(tech) + QLatin1String(" in ")
-                           + quoted(text) + QLatin1String("; technologies: ") + techListText());
+            throw BadInput(QLatin1String("unknown technology ") + quoted(tech)
+                           + QLatin1String(" in ") + quoted(text)
+                           + QLatin1String("; technologies: ") + techListText());
         const BandRef ref = bandByNames(tech, band);
         if (ref.tech < 0)
             throw BadInput(tech + QLatin1String(" has no band ") + quoted(band)
@@ -315,8 +317,8 @@ BandRef resolveBand(const QString &text)
                            + QLatin1String("; bands: ") + bandListText(slotList));
         const QList<BandRef> found = matchShortForm(slotList, key);
         if (found.isEmpty())
-            throw BadInput(techNamesText(slotList, " or ") + QLatin1String(" has no band ") + quoted(key)
-                           + QLatin1String("; bands: ") + bandListText(slotList));
+            throw BadInput(techNamesText(slotList, " or ") + QLatin1String(" has no band ")
+                           + quoted(key) + QLatin1String("; bands: ") + bandListText(slotList));
         if (found.size() > 1) {
             QStringList names;
             for (const BandRef &ref : found)

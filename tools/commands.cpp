@@ -94,8 +94,8 @@ int channelAt(const BandRef &band, int link, double mhz, int preferred)
     bool reachable = false;
     for (int i = 0; i < data.NumSubBand && !reachable; ++i) {
         const stSubBand &r = data.SubBands[i];
-        reachable = !isPlaceholder(r) && servesLink(r, link)
-                    && r.StartFreq - 1e-6 <= mhz && mhz <= r.StopFreq + 1e-6;
+        reachable = !isPlaceholder(r) && servesLink(r, link) && r.StartFreq - 1e-6 <= mhz
+                    && mhz <= r.StopFreq + 1e-6;
     }
     if (!reachable)
         return -1;
@@ -144,11 +144,12 @@ Outcome runTechs(const QStringList &, const CommandOptions &)
         table.addRow({QString::number(t), name, QString::number(bands),
                       QString::number(bandwidth, 'f', 0),
                       aliases.isEmpty() ? QStringLiteral("-") : aliases.join(QLatin1Char(','))});
-        list.append(QJsonObject{{QStringLiteral("slot"), t},
-                                {QStringLiteral("name"), name},
-                                {QStringLiteral("bands"), bands},
-                                {QStringLiteral("defaultIntegrationBandwidthHz"), bandwidth},
-                                {QStringLiteral("shortForms"), QJsonArray::fromStringList(aliases)}});
+        list.append(
+            QJsonObject{{QStringLiteral("slot"), t},
+                        {QStringLiteral("name"), name},
+                        {QStringLiteral("bands"), bands},
+                        {QStringLiteral("defaultIntegrationBandwidthHz"), bandwidth},
+                        {QStringLiteral("shortForms"), QJsonArray::fromStringList(aliases)}});
     }
     out.text = table.render();
     out.json.insert(QStringLiteral("technologies"), list);
@@ -345,7 +346,8 @@ Outcome runSearch(const QStringList &args, const CommandOptions &options)
             hits.append(hit);
         }
         if (hits.isEmpty())
-            out.notes << QLatin1String("no band holds ") + args[i].trimmed() + QLatin1String(" MHz");
+            out.notes << QLatin1String("no band holds ") + args[i].trimmed()
+                             + QLatin1String(" MHz");
         results.append(QJsonObject{{QStringLiteral("mhz"), f}, {QStringLiteral("hits"), hits}});
     }
     out.json.insert(QStringLiteral("results"), results);
@@ -400,8 +402,7 @@ Outcome runChannels(const QStringList &args, const CommandOptions &options)
                 continue;
             const int count = it.key() - start.key() + 1;
             table.addRow({linkShort(link), QString::number(start.key()), QString::number(it.key()),
-                          QString::number(count), formatMHz(start.value()),
-                          formatMHz(it.value())});
+                          QString::number(count), formatMHz(start.value()), formatMHz(it.value())});
             runs.append(QJsonObject{{QStringLiteral("first"), start.key()},
                                     {QStringLiteral("last"), it.key()},
                                     {QStringLiteral("count"), count},
@@ -449,7 +450,8 @@ Outcome runTable(const QStringList &args, const CommandOptions &options)
     TextTable table({QStringLiteral("TECH"), QStringLiteral("BAND"), QStringLiteral("CHANNELS"),
                      QStringLiteral("MHZ")});
     QJsonArray rows;
-    const int count = std::min({list.techList.size(), list.bandList.size(), list.chRangeList.size()});
+    const int count =
+        std::min({list.techList.size(), list.bandList.size(), list.chRangeList.size()});
     for (int i = 0; i < count; ++i) {
         const QString &tech = list.techList[i];
         const QString &bandName = list.bandList[i];
@@ -461,10 +463,11 @@ Outcome runTable(const QStringList &args, const CommandOptions &options)
             table.addRow({line == 0 ? tech : QString(), line == 0 ? bandName : QString(),
                           channels.value(line), freqs.value(line)});
         }
-        rows.append(QJsonObject{{QStringLiteral("technology"), tech},
-                                {QStringLiteral("band"), bandName},
-                                {QStringLiteral("channelRanges"), QJsonArray::fromStringList(channels)},
-                                {QStringLiteral("frequencyRanges"), QJsonArray::fromStringList(freqs)}});
+        rows.append(
+            QJsonObject{{QStringLiteral("technology"), tech},
+                        {QStringLiteral("band"), bandName},
+                        {QStringLiteral("channelRanges"), QJsonArray::fromStringList(channels)},
+                        {QStringLiteral("frequencyRanges"), QJsonArray::fromStringList(freqs)}});
     }
     out.json.insert(QStringLiteral("mode"), mode);
     out.json.insert(QStringLiteral("link"), options.link);
@@ -533,18 +536,18 @@ const QList<Command> &commands()
          false, runTechs},
         {"bands", "TECH", "codes, channel and MHz ranges, records, UL-only", 1, 1, false, false,
          false, runBands},
-        {"freq", "BAND CHANNEL...", "centre frequency of each channel, per direction", 2, -1,
-         true, false, false, runFreq},
+        {"freq", "BAND CHANNEL...", "centre frequency of each channel, per direction", 2, -1, true,
+         false, false, runFreq},
         {"channel", "BAND MHZ...", "channel whose centre is exactly MHZ, per direction", 2, -1,
          true, true, false, runChannel},
-        {"search", "MHZ...", "bands holding MHZ, nearest channel first", 1, -1, true, false,
-         false, runSearch},
+        {"search", "MHZ...", "bands holding MHZ, nearest channel first", 1, -1, true, false, false,
+         runSearch},
         {"channels", "BAND LOW HIGH", "channels of a band centred in LOW..HIGH MHz", 3, 3, true,
          false, false, runChannels},
         {"table", "MODE", "band table of an instrument mode (1 to 23)", 1, 1, false, false, true,
          runTable},
-        {"which", "CHANNEL", "every band and direction that has CHANNEL", 1, 1, true, false,
-         false, runWhich},
+        {"which", "CHANNEL", "every band and direction that has CHANNEL", 1, 1, true, false, false,
+         runWhich},
     };
     return list;
 }

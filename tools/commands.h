@@ -10,20 +10,20 @@
 // The options a command may read; main() rejects those a command does not take.
 struct CommandOptions
 {
-    QList<int> links;        // --ul / --dl (1, 0); empty: every link the band has
+    QList<int> links; // --ul / --dl (1, 0); empty: every link the band has
     bool hasPreferred = false;
-    int preferred = -1;      // --preferred
-    int link = 0;            // --link, for table
+    int preferred = -1; // --preferred
+    int link = 0;       // --link, for table
 };
 
 struct Command
 {
     const char *name;
-    const char *usage;       // arguments, for messages and help
+    const char *usage; // arguments, for messages and help
     const char *summary;
     int minArgs;
-    int maxArgs;             // -1: no limit
-    bool takesDirection;     // --ul / --dl
+    int maxArgs;         // -1: no limit
+    bool takesDirection; // --ul / --dl
     bool takesPreferred;
     bool takesLink;
     Outcome (*run)(const QStringList &args, const CommandOptions &options);

@@ -46,7 +46,8 @@ void releaseEarlyLog(bool show)
 }
 #else
 // Elsewhere the banner takes Qt's default route, before main().
-void releaseEarlyLog(bool) {}
+void releaseEarlyLog(bool)
+{}
 #endif
 
 void toStderr(QtMsgType, const QMessageLogContext &, const QString &message)
@@ -117,8 +118,8 @@ QString helpText()
         "\n"
         "Commands:\n");
     for (const Command &command : commands()) {
-        const QString call = QLatin1String(command.name) + QLatin1Char(' ')
-                             + QLatin1String(command.usage);
+        const QString call =
+            QLatin1String(command.name) + QLatin1Char(' ') + QLatin1String(command.usage);
         text += QLatin1String("  ") + call.trimmed().leftJustified(22) + QLatin1String("  ")
                 + QLatin1String(command.summary) + QLatin1Char('\n');
     }
@@ -179,7 +180,8 @@ int main(int argc, char *argv[])
     const QCommandLineOption jsonOption(QStringLiteral("json"));
     const QCommandLineOption quietOption(QStringList{QStringLiteral("q"), QStringLiteral("quiet")});
     const QCommandLineOption helpOption(QStringList{QStringLiteral("h"), QStringLiteral("help")});
-    const QCommandLineOption versionOption(QStringList{QStringLiteral("v"), QStringLiteral("version")});
+    const QCommandLineOption versionOption(
+        QStringList{QStringLiteral("v"), QStringLiteral("version")});
     parser.addOptions({ulOption, dlOption, preferredOption, linkOption, jsonOption, quietOption,
                        helpOption, versionOption});
     if (!parser.parse(arguments))
@@ -192,8 +194,9 @@ int main(int argc, char *argv[])
     }
     if (parser.isSet(versionOption)) {
         if (json) {
-            const QJsonObject version{{QStringLiteral("program"), QStringLiteral("saiskuko")},
-                                      {QStringLiteral("version"), QStringLiteral(SAISKUKO_VERSION_STR)}};
+            const QJsonObject version{
+                {QStringLiteral("program"), QStringLiteral("saiskuko")},
+                {QStringLiteral("version"), QStringLiteral(SAISKUKO_VERSION_STR)}};
             writeStdout(QString::fromUtf8(QJsonDocument(version).toJson()));
         } else {
             writeStdout(QStringLiteral("saiskuko " SAISKUKO_VERSION_STR "\n"));
@@ -220,8 +223,8 @@ int main(int argc, char *argv[])
                     + names.join(QLatin1String(", ")));
     }
 
-    const QString call = QLatin1String("saiskuko ") + QLatin1String(command->name) + QLatin1Char(' ')
-                         + QLatin1String(command->usage);
+    const QString call = QLatin1String("saiskuko ") + QLatin1String(command->name)
+                         + QLatin1Char(' ') + QLatin1String(command->usage);
     if (positional.size() < command->minArgs
         || (command->maxArgs >= 0 && positional.size() > command->maxArgs))
         return fail(QStringLiteral("%1 takes %2 (usage: %3)")
@@ -253,7 +256,8 @@ int main(int argc, char *argv[])
             options.hasPreferred = true;
             options.preferred = unmarked(parser.value(preferredOption)).trimmed().toInt(&ok, 10);
             if (!ok)
-                throw BadInput(QLatin1String("--preferred \"") + unmarked(parser.value(preferredOption))
+                throw BadInput(QLatin1String("--preferred \"")
+                               + unmarked(parser.value(preferredOption))
                                + QLatin1String("\" is not a channel number"));
         }
         if (parser.isSet(linkOption)) {

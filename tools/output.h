@@ -17,7 +17,8 @@ class BadInput : public std::runtime_error
 {
 public:
     explicit BadInput(const QString &message)
-        : std::runtime_error(message.toStdString()), m_message(message) {}
+        : std::runtime_error(message.toStdString()), m_message(message)
+    {}
     QString message() const { return m_message; }
 
 private:

@@ -23,8 +23,8 @@ public:
 
     // --- registration ---
     void SetBandInfo(QString tech, QString band, int startChannelNo, int stopChannelNo,
-                     double startFreq, double stopFreq, double baseFreq, int subBandParam,
-                     int link, ChFreqFunc func, bool uplinkOnly);
+                     double startFreq, double stopFreq, double baseFreq, int subBandParam, int link,
+                     ChFreqFunc func, bool uplinkOnly);
     void MakeBandInfo();
     void TestFunction();
 

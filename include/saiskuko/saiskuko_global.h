@@ -7,9 +7,9 @@
 
 // The one export macro: everything public carries it, the rest stays hidden.
 #if defined(SAISKUKO_BUILDING_LIBRARY)
-#  define SAISKUKO_EXPORT Q_DECL_EXPORT
+#define SAISKUKO_EXPORT Q_DECL_EXPORT
 #else
-#  define SAISKUKO_EXPORT Q_DECL_IMPORT
+#define SAISKUKO_EXPORT Q_DECL_IMPORT
 #endif
 
 #endif

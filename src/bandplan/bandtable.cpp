@@ -31,6 +31,7 @@ struct BandRow
 // "Band Global" copies) are the band plan as deployed and stay as they are.
 // Columns: technology, band, start ch, stop ch, start MHz, stop MHz,
 // base MHz, decimals, link (1 up, 0 down), formula, uplink-only.
+// clang-format off
 const BandRow kBandTable[] = {
     // CDMA
     {SlotCdma, "Band 0 (800)", 1, 799, 824.0, 849.0, 825.0, 2, 1, F(CDMA_Band0_1), false},
@@ -635,6 +636,7 @@ const BandRow kBandTable[] = {
     {SlotNr, "Band n261 (28 GHz)", 1, 1, 1.0, 1.0, 1.0, 1, 1, F(5GNRBand60k), false},
     {SlotNr, "Band n261 (28 GHz)", 2070833, 2084999, 27500.0, 28350.0, 27500.04, 1, 0, F(5GNRBand60k), false},
 };
+// clang-format on
 
 #undef F
 
@@ -643,8 +645,8 @@ const BandRow kBandTable[] = {
 void ChBandStore::MakeBandInfo()
 {
     for (const BandRow &row : kBandTable) {
-        SetBandInfo(techName(row.tech), QString::fromLatin1(row.band),
-                    row.startChannelNo, row.stopChannelNo, row.startFreq, row.stopFreq,
-                    row.baseFreq, row.subBandParam, row.link, row.func, row.uplinkOnly);
+        SetBandInfo(techName(row.tech), QString::fromLatin1(row.band), row.startChannelNo,
+                    row.stopChannelNo, row.startFreq, row.stopFreq, row.baseFreq, row.subBandParam,
+                    row.link, row.func, row.uplinkOnly);
     }
 }

@@ -55,4 +55,3 @@ qint64 estimateChannel(const FormulaTraits &traits, const stSubBand &r, double f
         return r.StopChannelNo;
     return static_cast<qint64>(estimate);
 }
-

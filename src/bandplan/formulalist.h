@@ -8,6 +8,7 @@
 // chstdGetWIMAX_Common4 is base + channel / 8, which the 0.125 step gives
 // exactly. The list is expanded for the definitions and for the traits that
 // tell the fast searches how each formula grows.
+// clang-format off
 #define SAISKUKO_FORMULAS(OFFSET, REF, TIMES5) \
     OFFSET(CDMA_Band0_1, 0, 0.03) \
     OFFSET(CDMA_Band0_2, 1023, 0.03) \
@@ -135,5 +136,6 @@
     OFFSET(LTEBand32Up, 27760, 0.1) \
     OFFSET(LTEBand67Up, 131972, 0.1) \
     OFFSET(LTEBand69Up, 132672, 0.1)
+// clang-format on
 
 #endif

@@ -26,27 +26,28 @@ inline double linear(int channel, int offset, double base, double step)
 
 } // namespace
 
-#define DEFINE_OFFSET(stem, offset, step)                                         \
-    double ChBandStore::chstdGet##stem(int channel, double base, int)             \
-    {                                                                             \
-        return linear(channel, offset, base, step);                               \
+#define DEFINE_OFFSET(stem, offset, step)                                                          \
+    double ChBandStore::chstdGet##stem(int channel, double base, int)                              \
+    {                                                                                              \
+        return linear(channel, offset, base, step);                                                \
     }
-#define DEFINE_REF(stem, step)                                                    \
-    double ChBandStore::chstdGet##stem(int channel, double base, int ref)         \
-    {                                                                             \
-        return linear(channel, ref, base, step);                                  \
+#define DEFINE_REF(stem, step)                                                                     \
+    double ChBandStore::chstdGet##stem(int channel, double base, int ref)                          \
+    {                                                                                              \
+        return linear(channel, ref, base, step);                                                   \
     }
-#define DEFINE_TIMES5(stem)                                                       \
-    double ChBandStore::chstdGet##stem(int channel, double base, int)             \
-    {                                                                             \
-        return base + static_cast<double>(wrappedTimes5(channel));                \
+#define DEFINE_TIMES5(stem)                                                                        \
+    double ChBandStore::chstdGet##stem(int channel, double base, int)                              \
+    {                                                                                              \
+        return base + static_cast<double>(wrappedTimes5(channel));                                 \
     }
 
 SAISKUKO_FORMULAS(DEFINE_OFFSET, DEFINE_REF, DEFINE_TIMES5)
 
 namespace {
 
-#define TRAITS_OFFSET(stem, offset, step) {&ChBandStore::chstdGet##stem, FormulaKind::Offset, offset, step},
+#define TRAITS_OFFSET(stem, offset, step)                                                          \
+    {&ChBandStore::chstdGet##stem, FormulaKind::Offset, offset, step},
 #define TRAITS_REF(stem, step) {&ChBandStore::chstdGet##stem, FormulaKind::Reference, 0, step},
 #define TRAITS_TIMES5(stem) {&ChBandStore::chstdGet##stem, FormulaKind::Times5, 0, 5.0},
 

@@ -38,19 +38,19 @@ QList<int> channelsInWindow(const stSubBand &r, double lowMHz, double highMHz)
 QList<int> ChBandStore::GetAvailableChannels(QString channelStandard, QString direction,
                                              double lowMHz, double highMHz) const
 {
-    return answerForStandard(channelStandard, QList<int>(),
-                             [&](const QString &tech, const QString &band) {
-        const ChBand &b = BandOf(tech, band);
-        const int link = linkOfDirection(direction);
-        QList<int> channels;
-        // Only the band's first record of the direction is offered.
-        for (int i = 0; i < recordCount(b); ++i) {
-            if (b.SubBands[i].Link == link) {
-                channels = channelsInWindow(b.SubBands[i], lowMHz, highMHz);
-                break;
+    return answerForStandard(
+        channelStandard, QList<int>(), [&](const QString &tech, const QString &band) {
+            const ChBand &b = BandOf(tech, band);
+            const int link = linkOfDirection(direction);
+            QList<int> channels;
+            // Only the band's first record of the direction is offered.
+            for (int i = 0; i < recordCount(b); ++i) {
+                if (b.SubBands[i].Link == link) {
+                    channels = channelsInWindow(b.SubBands[i], lowMHz, highMHz);
+                    break;
+                }
             }
-        }
-        reportAvailableChannels(channels.size());
-        return channels;
-    });
+            reportAvailableChannels(channels.size());
+            return channels;
+        });
 }

@@ -12,7 +12,11 @@ namespace {
 QList<int> techSlotsOfMode(int mode)
 {
     switch (mode) {
-    case 1: case 4: case 16: case 17: case 23:
+    case 1:
+    case 4:
+    case 16:
+    case 17:
+    case 23:
         return {SlotCdma, SlotGsm, SlotLteFdd, SlotLteTdd, SlotTdScdma, SlotWcdma, SlotWimax};
     case 6:
         return {SlotGsm};
@@ -20,7 +24,8 @@ QList<int> techSlotsOfMode(int mode)
         return {SlotWcdma};
     case 9:
         return {SlotTdScdma};
-    case 10: case 12:
+    case 10:
+    case 12:
         return {SlotCdma};
     case 11:
         return {SlotWimax};
@@ -28,7 +33,8 @@ QList<int> techSlotsOfMode(int mode)
         return {SlotLteFdd};
     case 14:
         return {SlotLteTdd};
-    case 20: case 22:
+    case 20:
+    case 22:
         return {SlotLteFdd, SlotLteTdd, SlotWcdma};
     default:
         return {};

@@ -65,7 +65,8 @@ QString ChBandStore::GetChNumRefString_List(QString tech, QString band, int link
     if (isGlobalBandName(band) || isPairedTechnology(t))
         return GetChNumRefString(tech, band, linkSel);
     QStringList pieces;
-    for (const stSubBand *r : shownRecords(Technologies[t].Bands[LookupBandSlot(t, band)], t, linkSel))
+    for (const stSubBand *r :
+         shownRecords(Technologies[t].Bands[LookupBandSlot(t, band)], t, linkSel))
         pieces.append(channelRange("(%d - %d)", *r));
     return pieces.join(QLatin1Char('\n'));
 }

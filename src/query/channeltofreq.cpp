@@ -67,9 +67,8 @@ int ChBandStore::GetStopChannelNo_InSample(QString tech, QString band, int chann
     static const stSubBand kUnwritten = {0, 0, 0.0, 0.0, 0.0, 0, -9, nullptr, false};
     for (int i = 0; i < n; ++i) {
         const stSubBand &next = i + 1 < ChBand::MaxSubBands ? b.SubBands[i + 1] : kUnwritten;
-        const stSubBand &candidate = (b.SubBands[i].Link != link && next.Link == link)
-                                         ? next
-                                         : b.SubBands[i];
+        const stSubBand &candidate =
+            (b.SubBands[i].Link != link && next.Link == link) ? next : b.SubBands[i];
         if (holdsChannel(candidate, channel))
             return candidate.StopChannelNo;
     }

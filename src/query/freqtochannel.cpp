@@ -112,7 +112,8 @@ int ChBandStore::GetOffsetChUpDown(QString tech, QString band, int channel, int 
         // Pairs stand uplink first, downlink second; a record without its
         // partner has no offset.
         if (r.Link == 1)
-            return i + 1 < n ? wrappedDifference(r.StartChannelNo, b.SubBands[i + 1].StartChannelNo) : 0;
+            return i + 1 < n ? wrappedDifference(r.StartChannelNo, b.SubBands[i + 1].StartChannelNo)
+                             : 0;
         return i > 0 ? wrappedDifference(b.SubBands[i - 1].StartChannelNo, r.StartChannelNo) : 0;
     }
     return 0;

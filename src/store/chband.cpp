@@ -3,8 +3,7 @@
 
 #include "store/technologies.h"
 
-ChBand::ChBand(QObject *parent)
-    : QObject(parent), IsGlobal(false), SubBands(), NumSubBand(0)
+ChBand::ChBand(QObject *parent) : QObject(parent), IsGlobal(false), SubBands(), NumSubBand(0)
 {
     // SubBands() zeroes every field, so a store on the heap reads like the
     // static one; -9 marks a record that was never written.
@@ -26,7 +25,8 @@ QString ChBand::GetBandName()
     return BandName;
 }
 
-ChTechnology::ChTechnology(QObject *parent) : QObject(parent), NumBand(0) {}
+ChTechnology::ChTechnology(QObject *parent) : QObject(parent), NumBand(0)
+{}
 
 ChTechnology::~ChTechnology() = default;
 

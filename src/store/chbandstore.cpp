@@ -34,7 +34,8 @@ ChBandStore::ChBandStore(QObject *parent) : QObject(parent)
 
 ChBandStore::~ChBandStore() = default;
 
-void ChBandStore::TestFunction() {}
+void ChBandStore::TestFunction()
+{}
 
 int ChBandStore::LookupTechSlot(const QString &tech) const
 {
@@ -62,8 +63,8 @@ bool ChBandStore::HasRoomFor(int techSlot, const QString &band) const
 }
 
 void ChBandStore::SetBandInfo(QString tech, QString band, int startChannelNo, int stopChannelNo,
-                              double startFreq, double stopFreq, double baseFreq,
-                              int subBandParam, int link, ChFreqFunc func, bool uplinkOnly)
+                              double startFreq, double stopFreq, double baseFreq, int subBandParam,
+                              int link, ChFreqFunc func, bool uplinkOnly)
 {
     const int t = LookupTechSlot(tech);
     // The arrays are fixed; a record that does not fit is refused whole so the

@@ -4,7 +4,8 @@
 // Built by the library's static initialisation; destroyed at unload.
 ChBandStore G_CHSTD;
 
-ChStd::ChStd(QObject *parent) : QObject(parent) {}
+ChStd::ChStd(QObject *parent) : QObject(parent)
+{}
 
 ChStd::~ChStd() = default;
 

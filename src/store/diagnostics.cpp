@@ -28,7 +28,8 @@ const char *fixedText(Invalid what)
 
 void announceVersion()
 {
-    qDebug() << "[ChStd] " << "Version : " << SAISKUKO_VERSION_STR;
+    qDebug() << "[ChStd] "
+             << "Version : " << SAISKUKO_VERSION_STR;
 }
 
 void warnInvalid(Invalid what, const QString &value)
@@ -48,7 +49,8 @@ void warnStoreFull(const QString &tech, const QString &band)
 
 void reportUnsupportedFrequency(double freqMHz)
 {
-    std::cout << "GetChNumFromFreq" << " Not supported value : " << freqMHz << std::endl;
+    std::cout << "GetChNumFromFreq"
+              << " Not supported value : " << freqMHz << std::endl;
 }
 
 void reportAvailableChannels(int count)

@@ -35,7 +35,8 @@ void splitCode(int code, int *tech, int *band)
 int ChBandStore::StrictEnumerator(const QString &tech, const QString &band) const
 {
     const auto techIt = TechIndexMap.constFind(tech);
-    if (techIt == TechIndexMap.constEnd() || techIt.value() < 0 || techIt.value() >= MaxTechnologies) {
+    if (techIt == TechIndexMap.constEnd() || techIt.value() < 0
+        || techIt.value() >= MaxTechnologies) {
         warnInvalid(Invalid::TechName, tech);
         return -1;
     }
@@ -83,9 +84,8 @@ bool ChBandStore::NamesOfEnumerator(int code, QString *tech, QString *band) cons
 
 int ChBandStore::GetTech(int code) const
 {
-    return AnswerForEnumerator(code, -1, [&](const QString &tech, const QString &) {
-        return LookupTechSlot(tech);
-    });
+    return AnswerForEnumerator(
+        code, -1, [&](const QString &tech, const QString &) { return LookupTechSlot(tech); });
 }
 
 int ChBandStore::GetBand(int code) const

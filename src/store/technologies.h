@@ -43,8 +43,8 @@ struct KnownBandName
 struct TechnologyFacts
 {
     const char *name;
-    double defaultIntBwHz;    // 0 where the technology has none of its own
-    bool pairedRefStrings;    // reference strings show one record chosen by link
+    double defaultIntBwHz; // 0 where the technology has none of its own
+    bool pairedRefStrings; // reference strings show one record chosen by link
     const KnownBandName *knownBands;
     int knownBandCount;
 };
@@ -52,36 +52,46 @@ struct TechnologyFacts
 namespace technology_data {
 
 constexpr KnownBandName kCdma[] = {
-    {"Band 0 (800)", Catalogued}, {"Band 1 (NA PCS)", Catalogued}, {"Band 2 (TACS)", Catalogued},
-    {"Band 3 (JTACS)", Catalogued}, {"Band 4 (KR PCS)", Catalogued}, {"Band 5 (450)", Catalogued},
-    {"Band 6 (2100)", Catalogued}, {"Band 7 (700)", Catalogued}, {"Band 8 (1800)", Catalogued},
-    {"Band 9 (900)", Catalogued}, {"Band 10 (2nd 800)", Catalogued},
+    {"Band 0 (800)", Catalogued},      {"Band 1 (NA PCS)", Catalogued},
+    {"Band 2 (TACS)", Catalogued},     {"Band 3 (JTACS)", Catalogued},
+    {"Band 4 (KR PCS)", Catalogued},   {"Band 5 (450)", Catalogued},
+    {"Band 6 (2100)", Catalogued},     {"Band 7 (700)", Catalogued},
+    {"Band 8 (1800)", Catalogued},     {"Band 9 (900)", Catalogued},
+    {"Band 10 (2nd 800)", Catalogued},
 };
 constexpr KnownBandName kGsm[] = {
-    {"GSM 450", Catalogued}, {"GSM 480", Catalogued}, {"GSM 850", Catalogued},
-    {"P-GSM 900", Catalogued}, {"E-GSM 900", Catalogued}, {"R-GSM 900", Catalogued},
-    {"R-GSM 900 (China)", Catalogued}, {"DCS 1800", Catalogued}, {"PCS 1900", Catalogued},
+    {"GSM 450", Catalogued},           {"GSM 480", Catalogued},   {"GSM 850", Catalogued},
+    {"P-GSM 900", Catalogued},         {"E-GSM 900", Catalogued}, {"R-GSM 900", Catalogued},
+    {"R-GSM 900 (China)", Catalogued}, {"DCS 1800", Catalogued},  {"PCS 1900", Catalogued},
 };
 constexpr KnownBandName kLteFdd[] = {
-    {"Band Global", Catalogued}, {"Band 1 (2100)", Catalogued}, {"Band 2 (1900)", Catalogued},
-    {"Band 3 (1800)", Catalogued}, {"Band 4 (1700)", Catalogued}, {"Band 5 (850)", Catalogued},
-    {"Band 7 (2600)", Catalogued}, {"Band 8 (900)", Catalogued}, {"Band 9 (1800)", Catalogued},
+    {"Band Global", Catalogued},    {"Band 1 (2100)", Catalogued},  {"Band 2 (1900)", Catalogued},
+    {"Band 3 (1800)", Catalogued},  {"Band 4 (1700)", Catalogued},  {"Band 5 (850)", Catalogued},
+    {"Band 7 (2600)", Catalogued},  {"Band 8 (900)", Catalogued},   {"Band 9 (1800)", Catalogued},
     {"Band 10 (1700)", Catalogued}, {"Band 11 (1500)", Catalogued}, {"Band 12 (700)", Catalogued},
-    {"Band 13 (700)", Catalogued}, {"Band 14 (700)", Catalogued}, {"Band 17 (700)", Catalogued},
-    {"Band 18 (800)", Catalogued}, {"Band 20 (800)", Catalogued}, {"Band 21 (1500)", Catalogued},
+    {"Band 13 (700)", Catalogued},  {"Band 14 (700)", Catalogued},  {"Band 17 (700)", Catalogued},
+    {"Band 18 (800)", Catalogued},  {"Band 20 (800)", Catalogued},  {"Band 21 (1500)", Catalogued},
     {"Band 22 (3500)", Catalogued}, {"Band 23 (2100)", Catalogued}, {"Band 24 (1500)", Catalogued},
     {"Band 25 (1900)", Catalogued}, {"Band 26 (800)", Catalogued},
 };
 // The catalogue stops at Band 43; the time-division family goes on to 48.
 constexpr KnownBandName kLteTdd[] = {
-    {"Band Global", CataloguedTimeDivision},    {"Band 33 (1900)", CataloguedTimeDivision},
-    {"Band 34 (2010)", CataloguedTimeDivision}, {"Band 35 (1850)", CataloguedTimeDivision},
-    {"Band 36 (1930)", CataloguedTimeDivision}, {"Band 37 (1910)", CataloguedTimeDivision},
-    {"Band 38 (2570)", CataloguedTimeDivision}, {"Band 39 (1880)", CataloguedTimeDivision},
-    {"Band 40 (2300)", CataloguedTimeDivision}, {"Band 41 (2496)", CataloguedTimeDivision},
-    {"Band 42 (3400)", CataloguedTimeDivision}, {"Band 43 (3600)", CataloguedTimeDivision},
-    {"Band 44 (700)", TimeDivision},            {"Band 45 (1500)", TimeDivision},
-    {"Band 46 (6000)", TimeDivision},           {"Band 47 (6000)", TimeDivision},
+    {"Band Global", CataloguedTimeDivision},
+    {"Band 33 (1900)", CataloguedTimeDivision},
+    {"Band 34 (2010)", CataloguedTimeDivision},
+    {"Band 35 (1850)", CataloguedTimeDivision},
+    {"Band 36 (1930)", CataloguedTimeDivision},
+    {"Band 37 (1910)", CataloguedTimeDivision},
+    {"Band 38 (2570)", CataloguedTimeDivision},
+    {"Band 39 (1880)", CataloguedTimeDivision},
+    {"Band 40 (2300)", CataloguedTimeDivision},
+    {"Band 41 (2496)", CataloguedTimeDivision},
+    {"Band 42 (3400)", CataloguedTimeDivision},
+    {"Band 43 (3600)", CataloguedTimeDivision},
+    {"Band 44 (700)", TimeDivision},
+    {"Band 45 (1500)", TimeDivision},
+    {"Band 46 (6000)", TimeDivision},
+    {"Band 47 (6000)", TimeDivision},
     {"Band 48 (3600)", TimeDivision},
 };
 constexpr KnownBandName kTdScdma[] = {
@@ -129,15 +139,24 @@ constexpr KnownBandName kWcdma[] = {
 // Only the single-record profiles are time-division; profiles 6 to 15 are
 // paired.
 constexpr KnownBandName kWimax[] = {
-    {"ProfR1 (1.25 2150)", CataloguedTimeDivision}, {"ProfR2 (1.25 2305)", CataloguedTimeDivision},
-    {"ProfR3 (1.25 2361)", CataloguedTimeDivision}, {"ProfR4 (1.25 2500)", CataloguedTimeDivision},
-    {"ProfR5 (1.25 3400)", CataloguedTimeDivision}, {"ProfR6 (3.5 2598)", Catalogued},
-    {"ProfR7 (3.5 3461)", Catalogued},              {"ProfR8 (3.5 3551)", Catalogued},
-    {"ProfR9 (3.5 3651)", Catalogued},              {"ProfR10 (3.5 3751)", Catalogued},
-    {"ProfR11 (7 2600)", Catalogued},               {"ProfR12 (7 3463)", Catalogued},
-    {"ProfR13 (7 3553)", Catalogued},               {"ProfR14 (7 3653)", Catalogued},
-    {"ProfR15 (7 3753)", Catalogued},               {"ProfR26 (10 5275)", CataloguedTimeDivision},
-    {"ProfR27 (10 5740)", CataloguedTimeDivision},  {"ProfR28 (10 5735)", CataloguedTimeDivision},
+    {"ProfR1 (1.25 2150)", CataloguedTimeDivision},
+    {"ProfR2 (1.25 2305)", CataloguedTimeDivision},
+    {"ProfR3 (1.25 2361)", CataloguedTimeDivision},
+    {"ProfR4 (1.25 2500)", CataloguedTimeDivision},
+    {"ProfR5 (1.25 3400)", CataloguedTimeDivision},
+    {"ProfR6 (3.5 2598)", Catalogued},
+    {"ProfR7 (3.5 3461)", Catalogued},
+    {"ProfR8 (3.5 3551)", Catalogued},
+    {"ProfR9 (3.5 3651)", Catalogued},
+    {"ProfR10 (3.5 3751)", Catalogued},
+    {"ProfR11 (7 2600)", Catalogued},
+    {"ProfR12 (7 3463)", Catalogued},
+    {"ProfR13 (7 3553)", Catalogued},
+    {"ProfR14 (7 3653)", Catalogued},
+    {"ProfR15 (7 3753)", Catalogued},
+    {"ProfR26 (10 5275)", CataloguedTimeDivision},
+    {"ProfR27 (10 5740)", CataloguedTimeDivision},
+    {"ProfR28 (10 5735)", CataloguedTimeDivision},
     {"ProfR29 (8.75 2304)", CataloguedTimeDivision},
 };
 
@@ -192,7 +211,8 @@ inline bool knowsBandAs(int slot, const QString &band, KnownBandRole role)
 // band name alone, so "Band Global" counts whichever technology it is in.
 inline bool isTimeDivisionBand(const QString &band)
 {
-    return knowsBandAs(SlotTdScdma, band, TimeDivision) || knowsBandAs(SlotLteTdd, band, TimeDivision)
+    return knowsBandAs(SlotTdScdma, band, TimeDivision)
+           || knowsBandAs(SlotLteTdd, band, TimeDivision)
            || knowsBandAs(SlotWimax, band, TimeDivision);
 }
 

@@ -25,7 +25,8 @@ Run saiskuko(const char *line, const char *extra = nullptr)
         arguments << QString::fromUtf8(extra);
     QProcess process;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.remove(QStringLiteral("LD_LIBRARY_PATH")); // only the installed layout may supply the library
+    environment.remove(
+        QStringLiteral("LD_LIBRARY_PATH")); // only the installed layout may supply the library
     process.setProcessEnvironment(environment);
     process.start(qEnvironmentVariable("SAISKUKO_CLI"), arguments);
     Run run;
@@ -50,14 +51,16 @@ private slots:
             QTest::newRow(name) << QString::fromUtf8(arguments) << QString::fromUtf8(expected);
         };
         // Three ways of naming one band answer alike.
-        const char *band1 = "LTE-FDD - Band 1 (2100) [201]\nCHANNEL  UL MHZ  DL MHZ\n300      -       2140\n"
-                            "18300    1950    -\n";
+        const char *band1 =
+            "LTE-FDD - Band 1 (2100) [201]\nCHANNEL  UL MHZ  DL MHZ\n300      -       2140\n"
+            "18300    1950    -\n";
         row("freq short form", "-q freq LTE:1 300 18300", band1);
         row("freq code", "-q freq 201 300 18300", band1);
         row("freq channel standard", "-q|freq|LTE-FDD - Band 1 (2100)|300|18300", band1);
         // 2140.2 is not the double the formula yields; it must still convert.
         row("channel from a decimal", "-q channel WCDMA:1 2140.2",
-            "WCDMA - Band 1 (2100-General) [501]\nMHZ     UL CHANNEL  DL CHANNEL\n2140.2  -           10701\n");
+            "WCDMA - Band 1 (2100-General) [501]\nMHZ     UL CHANNEL  DL CHANNEL\n2140.2  -        "
+            "   10701\n");
         // 1950 MHz downlink is channel 800 of band 2 and 8240 of band 25.
         row("preferred kept", "-q channel FDD:global 1950 --dl --preferred 8240",
             "LTE-FDD - Band Global [200]\nMHZ   DL CHANNEL\n1950  8240\n");
@@ -70,7 +73,8 @@ private slots:
             "1842.5   107  GSM      DCS 1800               DL       698  1842.4       -0.1\n"
             "1842.5   504  WCDMA    Band 3 (1800-General)  DL      1337  1842.4       -0.1\n");
         row("which, every overlapping band", "-q which 630000",
-            "CODE  TECH   BAND                DIR  MHZ\n 723  5G NR  Band n77 (TD 3700)  DL   3450\n"
+            "CODE  TECH   BAND                DIR  MHZ\n 723  5G NR  Band n77 (TD 3700)  DL   "
+            "3450\n"
             " 724  5G NR  Band n78 (TD 3500)  DL   3450\n");
         row("version", "-q --version", "saiskuko " SAISKUKO_VERSION_STR "\n");
     }
@@ -92,15 +96,17 @@ private slots:
         QTest::addColumn<int>("status");
         QTest::addColumn<QString>("message");
         const auto row = [](const char *arguments, int status, const char *message) {
-            QTest::newRow(arguments) << QString::fromUtf8(arguments) << status << QString::fromUtf8(message);
+            QTest::newRow(arguments)
+                << QString::fromUtf8(arguments) << status << QString::fromUtf8(message);
         };
         row("-q", 2, "no command given");
         row("-q frequency LTE:1 300", 2, "unknown command \"frequency\"");
         row("-q freq LTE:1", 2, "freq takes more");
         row("-q freq LTE:1 30x", 2, "channel \"30x\" is not a whole number");
         row("-q freq LTX:1 300", 2, "unknown technology \"LTX\"");
-        row("-q freq GSM:900 1", 2, "it matches: GSM - P-GSM 900 [103], GSM - E-GSM 900 [104], GSM - R-GSM 900 [105], "
-                                    "GSM - R-GSM 900 (China) [106]");
+        row("-q freq GSM:900 1", 2,
+            "it matches: GSM - P-GSM 900 [103], GSM - E-GSM 900 [104], GSM - R-GSM 900 [105], "
+            "GSM - R-GSM 900 (China) [106]");
         row("-q freq 238 1", 2, "no band has code 238");
         row("-q|freq|LTE-FDD - band 1 (2100)|300", 2, "LTE-FDD has no band \"band 1 (2100)\"");
         row("-q search 100000", 1, "no band holds 100000 MHz");
@@ -116,8 +122,9 @@ private slots:
         for (const char *json : {static_cast<const char *>(nullptr), "--json"}) {
             const Run run = saiskuko(qPrintable(arguments), json);
             QTEST(run.status, "status");
-            QVERIFY2(run.err.startsWith(QLatin1String("saiskuko: ")) && run.err.count(QLatin1Char('\n')) == 1
-                         && run.err.contains(message), qPrintable(run.err));
+            QVERIFY2(run.err.startsWith(QLatin1String("saiskuko: "))
+                         && run.err.count(QLatin1Char('\n')) == 1 && run.err.contains(message),
+                     qPrintable(run.err));
             if (!json || run.status == 2)
                 QCOMPARE(run.out, QString());
             else // a query without result still gives a JSON document
@@ -130,7 +137,8 @@ private slots:
         const Run loud = saiskuko("channel LTE:1 2140.05");
         QCOMPARE(loud.out, QString());
         QVERIFY2(loud.err.contains(QLatin1String("Version :  " SAISKUKO_VERSION_STR))
-                     && loud.err.contains(QLatin1String("GetChNumFromFreq Not supported value : 2140.05")),
+                     && loud.err.contains(
+                         QLatin1String("GetChNumFromFreq Not supported value : 2140.05")),
                  qPrintable(loud.err));
         QCOMPARE(saiskuko("--quiet channel LTE:1 2140.05").err.count(QLatin1Char('\n')), 1);
     }
@@ -139,15 +147,19 @@ private slots:
     void jsonCarriesTheTextValues()
     {
         QStringList text, json;
-        for (const QString &line : saiskuko("-q freq LTE:1 300 18300 599 600").out.split(QLatin1Char('\n')).mid(2))
+        for (const QString &line :
+             saiskuko("-q freq LTE:1 300 18300 599 600").out.split(QLatin1Char('\n')).mid(2))
             text << line.split(QLatin1Char(' '), Qt::SkipEmptyParts);
         const QByteArray answer = saiskuko("-q freq LTE:1 300 18300 599 600 --json").out.toUtf8();
-        for (const QJsonValue &result : QJsonDocument::fromJson(answer)[QLatin1String("results")].toArray())
+        for (const QJsonValue &result :
+             QJsonDocument::fromJson(answer)[QLatin1String("results")].toArray())
             for (const char *key : {"channel", "uplink", "downlink"})
-                json << (result[QLatin1String(key)].isNull() ? QStringLiteral("-")
-                                                              : QString::number(result[QLatin1String(key)].toDouble(), 'g', 12));
+                json << (result[QLatin1String(key)].isNull()
+                             ? QStringLiteral("-")
+                             : QString::number(result[QLatin1String(key)].toDouble(), 'g', 12));
         QCOMPARE(json, text);
-        QCOMPARE(text.join(QLatin1Char(' ')), QStringLiteral("300 - 2140 18300 1950 - 599 - 2169.9 600 - -"));
+        QCOMPARE(text.join(QLatin1Char(' ')),
+                 QStringLiteral("300 - 2140 18300 1950 - 599 - 2169.9 600 - -"));
     }
 };
 
