@@ -159,7 +159,8 @@ int fail(const QString &message)
 
 } // namespace
 
-int main(int argc, char *argv[])
+// Only an exhausted heap escapes, and ends the program as it should.
+int main(int argc, char *argv[]) // NOLINT(bugprone-exception-escape)
 {
     QCoreApplication app(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("saiskuko"));

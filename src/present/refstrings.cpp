@@ -26,8 +26,8 @@ QList<const stSubBand *> shownRecords(const ChBand &b, int techSlot, int linkSel
     }
     const int n = recordCount(b);
     const int ranges = (n == 1 ? 2 : n) / 2;
-    for (int i = 0; i < ranges; ++i)
-        shown.append(&b.SubBands[2 * i]);
+    for (int first = 0; first < 2 * ranges; first += 2)
+        shown.append(&b.SubBands[first]);
     return shown;
 }
 

@@ -2,7 +2,7 @@
 #include <saiskuko/chstd.h>
 
 // Built by the library's static initialisation; destroyed at unload.
-ChBandStore G_CHSTD;
+ChBandStore G_CHSTD; // NOLINT(cert-err58-cpp): the store exists from load on, by design
 
 ChStd::ChStd(QObject *parent) : QObject(parent)
 {}
