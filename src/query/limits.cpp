@@ -4,12 +4,31 @@
 #include "store/recordrules.h"
 #include "store/technologies.h"
 
+#include <functional>
+
 namespace {
 
 // The link a channel-limit query falls back to: downlink for anything but 0.
 int fallbackLink(int link)
 {
     return link == 0 ? 1 : 0;
+}
+
+// The edge of the band's records of a link that beats all later ones (the
+// first record's on a tie); 0.0 when the band has no record of the link.
+template <typename Beats>
+double outermostEdge(const ChBand &b, int link, double stSubBand::*edge, Beats beats)
+{
+    bool found = false;
+    double best = 0.0;
+    for (int i = 0; i < recordCount(b); ++i) {
+        const stSubBand &r = b.SubBands[i];
+        if (r.Link == link && (!found || beats(r.*edge, best))) {
+            best = r.*edge;
+            found = true;
+        }
+    }
+    return best;
 }
 
 } // namespace
@@ -21,32 +40,12 @@ double ChBandStore::GetStartFreq(QString tech, QString band) const
 
 double ChBandStore::GetStartFreq(QString tech, QString band, int link) const
 {
-    const ChBand &b = BandOf(tech, band);
-    bool found = false;
-    double lowest = 0.0;
-    for (int i = 0; i < recordCount(b); ++i) {
-        const stSubBand &r = b.SubBands[i];
-        if (r.Link == link && (!found || r.StartFreq < lowest)) {
-            lowest = r.StartFreq;
-            found = true;
-        }
-    }
-    return lowest;
+    return outermostEdge(BandOf(tech, band), link, &stSubBand::StartFreq, std::less<double>());
 }
 
 double ChBandStore::GetStopFreq(QString tech, QString band, int link) const
 {
-    const ChBand &b = BandOf(tech, band);
-    bool found = false;
-    double highest = 0.0;
-    for (int i = 0; i < recordCount(b); ++i) {
-        const stSubBand &r = b.SubBands[i];
-        if (r.Link == link && (!found || r.StopFreq > highest)) {
-            highest = r.StopFreq;
-            found = true;
-        }
-    }
-    return highest;
+    return outermostEdge(BandOf(tech, band), link, &stSubBand::StopFreq, std::greater<double>());
 }
 
 int ChBandStore::GetStartChannelNo(QString tech, QString band, int link) const
