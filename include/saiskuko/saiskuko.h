@@ -1,7 +1,8 @@
 #ifndef SAISKUKO_H
 #define SAISKUKO_H
 
-// Umbrella header: every public type of the library.
+/// @file
+/// Umbrella header: every public type of the library and #G_CHSTD.
 #include <saiskuko/chband.h>
 #include <saiskuko/chbandstore.h>
 #include <saiskuko/chstd.h>
