@@ -34,9 +34,7 @@ std::vector<std::function<QString()>> allQueries()
 {
     const ChBandStore &s = *ChStd::GetChStdPointer();
     std::vector<int> codes = {-1, 11, 800, INT_MIN, INT_MAX};
-    for (int t = 0; t < ChBandStore::MaxTechnologies; ++t)
-        for (int b = 0; b < s.Technologies[t].NumBand; ++b)
-            codes.push_back(100 * t + b);
+    forEachBand(s, [&](const ChTechnology &, const ChBand &, int code) { codes.push_back(code); });
     std::vector<std::function<QString()>> q;
     for (const int code : codes) {
         const QString standard = s.GetEnumulator(code);
@@ -57,43 +55,28 @@ std::vector<std::function<QString()>> allQueries()
                        + s.GetBandList(tech).join(str("/")) + s.GetChNumRefString(tech, band, link)
                        + s.GetChNumRefString_List(tech, band, link)
                        + s.GetFreqRefString_List(tech, band, link)
-                       + nums({window.size(),
-                               window.value(0),
-                               window.value(window.size() - 1),
-                               s.GetTech(code),
-                               s.GetBand(code),
-                               s.IsChannelStandard(code),
-                               s.IsChannelStandard(standard),
-                               s.GetEnumulator(tech, band),
-                               s.GetNumBand(tech),
-                               s.CheckChannelStandardIsLTETDD(band),
+                       + nums({window.size(), window.value(0), window.value(window.size() - 1)})
+                       + nums({s.GetTech(code), s.GetBand(code), s.IsChannelStandard(code),
+                               s.IsChannelStandard(standard), s.GetEnumulator(tech, band)})
+                       + nums({s.GetNumBand(tech), s.CheckChannelStandardIsLTETDD(band),
                                s.CheckChannelStandardIsTDS(band),
-                               s.CheckChannelStandardIsWiMax(band),
-                               s.GetNumSubBand(code),
-                               s.GetNumSubBand(tech, band),
-                               s.IsUplinkOnly(code),
-                               s.IsUplinkOnly(tech, band),
-                               s.GetStartFreq(code),
-                               s.GetStartFreq(tech, band),
-                               s.GetDefaultIntBW(code),
-                               s.GetDefaultIntBW(tech),
-                               s.GetStartFreq(code, link),
-                               s.GetStartFreq(tech, band, link),
-                               s.GetStopFreq(code, link),
-                               s.GetStopFreq(tech, band, link),
-                               s.GetStartChannelNo(code, link),
-                               s.GetStartChannelNo(tech, band, link),
-                               s.GetStopChannelNo(code, link),
-                               s.GetStopChannelNo(tech, band, link),
-                               s.GetFreq(code, link, ch),
-                               s.GetFreq(tech, band, link, ch),
-                               s.GetFreq(standard, link, ch + 1),
-                               s.GetFreq(standard, dir, ch),
-                               s.GetFreqNoLimit(tech, band, link, ch - 7),
-                               s.IsExistChannelNo(code, link, ch),
+                               s.CheckChannelStandardIsWiMax(band)})
+                       + nums({s.GetNumSubBand(code), s.GetNumSubBand(tech, band),
+                               s.IsUplinkOnly(code), s.IsUplinkOnly(tech, band)})
+                       + nums({s.GetStartFreq(code), s.GetStartFreq(tech, band),
+                               s.GetDefaultIntBW(code), s.GetDefaultIntBW(tech)})
+                       + nums({s.GetStartFreq(code, link), s.GetStartFreq(tech, band, link),
+                               s.GetStopFreq(code, link), s.GetStopFreq(tech, band, link)})
+                       + nums(
+                           {s.GetStartChannelNo(code, link), s.GetStartChannelNo(tech, band, link),
+                            s.GetStopChannelNo(code, link), s.GetStopChannelNo(tech, band, link)})
+                       + nums({s.GetFreq(code, link, ch), s.GetFreq(tech, band, link, ch),
+                               s.GetFreq(standard, link, ch + 1), s.GetFreq(standard, dir, ch),
+                               s.GetFreqNoLimit(tech, band, link, ch - 7)})
+                       + nums({s.IsExistChannelNo(code, link, ch),
                                s.IsExistChannelNo(tech, band, link, ch),
-                               s.GetStopChannelNo_InSample(tech, band, ch, link),
-                               s.GetOffsetChUpDown(code, link, ch),
+                               s.GetStopChannelNo_InSample(tech, band, ch, link)})
+                       + nums({s.GetOffsetChUpDown(code, link, ch),
                                s.GetOffsetChUpDown(tech, band, ch, link),
                                s.GetOffsetChUpDown(standard, link, ch),
                                s.GetOffsetChUpDown(standard, dir, ch)});
