@@ -33,6 +33,14 @@ public:
 
     QString BandName; ///< The band's name, such as "Band 1 (2100)".
     bool IsGlobal;    ///< True once the band was named "Band Global" (see @ref global).
+
+private:
+    // What the queries ask of the name on every call, kept by SetBandName in
+    // bytes the layout leaves unused, so the class keeps its size and offsets.
+    friend struct ChBandNameFacts;
+    quint8 NameFacts = 0;
+
+public:
     stSubBand SubBands[MaxSubBands]; ///< Records 0 to #NumSubBand - 1 in registration order.
     int NumSubBand;                  ///< Number of records in use.
 };

@@ -1,5 +1,7 @@
-// Queries by channel standard enumerator, each answered by its name form.
+// Queries by channel standard enumerator: each finds its band and asks what its name form asks.
+#include "query/bandqueries.h"
 #include "store/enumeratorquery.h"
+#include "store/technologies.h"
 
 // The failure values (after the warning) differ from the name forms' empty
 // answers so that callers can tell a bad code from an empty band;
@@ -7,83 +9,78 @@
 
 int ChBandStore::GetNumSubBand(int code) const
 {
-    return AnswerForEnumerator(code, -1, [&](const QString &tech, const QString &band) {
-        return GetNumSubBand(tech, band);
-    });
+    return AnswerForBand(code, -1,
+                         [](int, const ChBand &b, const QString &) { return b.NumSubBand; });
 }
 
 int ChBandStore::GetStartChannelNo(int code, int link) const
 {
-    return AnswerForEnumerator(code, -1, [&](const QString &tech, const QString &band) {
-        return GetStartChannelNo(tech, band, link);
-    });
+    return AnswerForBand(
+        code, -1, [&](int, const ChBand &b, const QString &) { return startChannelIn(b, link); });
 }
 
 int ChBandStore::GetStopChannelNo(int code, int link) const
 {
-    return AnswerForEnumerator(code, -1, [&](const QString &tech, const QString &band) {
-        return GetStopChannelNo(tech, band, link);
-    });
+    return AnswerForBand(
+        code, -1, [&](int, const ChBand &b, const QString &) { return stopChannelIn(b, link); });
 }
 
-int ChBandStore::GetOffsetChUpDown(int code, int link, int channel) const
+int ChBandStore::GetOffsetChUpDown(int code, int /*link*/, int channel) const
 {
-    return AnswerForEnumerator(code, -1, [&](const QString &tech, const QString &band) {
-        return GetOffsetChUpDown(tech, band, channel, link);
+    return AnswerForBand(code, -1, [&](int t, const ChBand &b, const QString &name) {
+        return offsetChUpDownIn(t, b, name, channel);
     });
 }
 
 int ChBandStore::GetChNumFromFreq(int code, int link, double freqMHz, int preferred) const
 {
-    return AnswerForEnumerator(code, -1, [&](const QString &tech, const QString &band) {
-        return GetChNumFromFreq(tech, band, link, freqMHz, preferred);
+    return AnswerForBand(code, -1, [&](int, const ChBand &b, const QString &) {
+        return chNumFromFreqIn(b, link, freqMHz, preferred);
     });
 }
 
 double ChBandStore::GetDefaultIntBW(int code) const
 {
-    return AnswerForEnumerator(
-        code, -1.0, [&](const QString &tech, const QString &) { return GetDefaultIntBW(tech); });
+    return AnswerForBand(code, -1.0, [&](int t, const ChBand &, const QString &) {
+        return GetDefaultIntBW(techName(t));
+    });
 }
 
 bool ChBandStore::IsUplinkOnly(int code) const
 {
-    return AnswerForEnumerator(code, true, [&](const QString &tech, const QString &band) {
-        return IsUplinkOnly(tech, band);
+    return AnswerForBand(code, true, [&](int, const ChBand &b, const QString &) {
+        return b.SubBands[0].UplinkOnly;
     });
 }
 
 double ChBandStore::GetStartFreq(int code) const
 {
-    return AnswerForEnumerator(code, -1.0, [&](const QString &tech, const QString &band) {
-        return GetStartFreq(tech, band);
-    });
+    return AnswerForBand(
+        code, -1.0, [](int, const ChBand &b, const QString &) { return b.SubBands[0].StartFreq; });
 }
 
 double ChBandStore::GetStartFreq(int code, int link) const
 {
-    return AnswerForEnumerator(code, -1.0, [&](const QString &tech, const QString &band) {
-        return GetStartFreq(tech, band, link);
-    });
+    return AnswerForBand(
+        code, -1.0, [&](int, const ChBand &b, const QString &) { return startFreqIn(b, link); });
 }
 
 double ChBandStore::GetStopFreq(int code, int link) const
 {
-    return AnswerForEnumerator(code, -1.0, [&](const QString &tech, const QString &band) {
-        return GetStopFreq(tech, band, link);
-    });
+    return AnswerForBand(
+        code, -1.0, [&](int, const ChBand &b, const QString &) { return stopFreqIn(b, link); });
 }
 
 bool ChBandStore::IsExistChannelNo(int code, int link, int channel) const
 {
-    return AnswerForEnumerator(code, false, [&](const QString &tech, const QString &band) {
-        return IsExistChannelNo(tech, band, link, channel);
+    return AnswerForBand(code, false, [&](int, const ChBand &b, const QString &) {
+        return channelExistsIn(b, link, channel);
     });
 }
 
 double ChBandStore::GetFreq(int code, int link, int channel) const
 {
-    return AnswerForEnumerator(code, -1.0, [&](const QString &tech, const QString &band) {
-        return GetFreq(tech, band, link, channel);
+    return AnswerForBand(code, -1.0, [&](int, const ChBand &b, const QString &) {
+        return freqIn(b, link, channel);
     });
 }

@@ -1,26 +1,35 @@
 // Channel to frequency: conversion, existence of a channel, and the end of its range.
 #include <saiskuko/chbandstore.h>
 
+#include "query/bandqueries.h"
+#include "store/bandnamefacts.h"
 #include "store/recordrules.h"
 #include "store/standardtext.h"
-#include "store/technologies.h"
 
-double ChBandStore::GetFreq(QString tech, QString band, int link, int channel) const
+double freqIn(const ChBand &b, int link, int channel)
 {
-    const ChBand &b = BandOf(tech, band);
-    // Whether the band is time-division depends on its name only: asked once,
-    // and only when a record of the other link holds the channel.
-    int timeDivision = -1;
+    const bool timeDivision = ChBandNameFacts::isTimeDivision(b);
     for (int i = 0; i < recordCount(b); ++i) {
         const stSubBand &r = b.SubBands[i];
-        if (!holdsChannel(r, channel))
-            continue;
-        if (!servesLink(r, link) && timeDivision < 0)
-            timeDivision = isTimeDivisionBand(b.BandName);
-        if (servesLinkOfBand(r, link, timeDivision > 0))
+        if (holdsChannel(r, channel) && servesLinkOfBand(r, link, timeDivision))
             return recordFreq(r, channel);
     }
     return -1.0;
+}
+
+bool channelExistsIn(const ChBand &b, int link, int channel)
+{
+    for (int i = 0; i < recordCount(b); ++i) {
+        const stSubBand &r = b.SubBands[i];
+        if (r.Link == link && holdsChannel(r, channel))
+            return true;
+    }
+    return false;
+}
+
+double ChBandStore::GetFreq(QString tech, QString band, int link, int channel) const
+{
+    return freqIn(BandOf(tech, band), link, channel);
 }
 
 double ChBandStore::GetFreq(QString standard, int link, int channel) const
@@ -47,13 +56,7 @@ double ChBandStore::GetFreqNoLimit(QString tech, QString band, int link, int cha
 
 bool ChBandStore::IsExistChannelNo(QString tech, QString band, int link, int channel) const
 {
-    const ChBand &b = BandOf(tech, band);
-    for (int i = 0; i < recordCount(b); ++i) {
-        const stSubBand &r = b.SubBands[i];
-        if (r.Link == link && holdsChannel(r, channel))
-            return true;
-    }
-    return false;
+    return channelExistsIn(BandOf(tech, band), link, channel);
 }
 
 int ChBandStore::GetStopChannelNo_InSample(QString tech, QString band, int channel, int link) const

@@ -2,6 +2,7 @@
 #include <saiskuko/chbandstore.h>
 
 #include "bandplan/channelsearch.h"
+#include "query/bandqueries.h"
 #include "store/diagnostics.h"
 #include "store/recordrules.h"
 #include "store/standardtext.h"
@@ -64,10 +65,8 @@ void collectExactMatches(const stSubBand &r, double freqMHz, ExactMatches *found
 
 } // namespace
 
-int ChBandStore::GetChNumFromFreq(QString tech, QString band, int link, double freqMHz,
-                                  int preferred) const
+int chNumFromFreqIn(const ChBand &b, int link, double freqMHz, int preferred)
 {
-    const ChBand &b = BandOf(tech, band);
     ExactMatches found;
     for (int i = 0; i < recordCount(b); ++i) {
         const stSubBand &r = b.SubBands[i];
@@ -79,6 +78,35 @@ int ChBandStore::GetChNumFromFreq(QString tech, QString band, int link, double f
 
     reportUnsupportedFrequency(freqMHz);
     return -1;
+}
+
+int offsetChUpDownIn(int t, const ChBand &b, const QString &bandText, int channel)
+{
+    // Time-division standards share channel numbers between the directions.
+    if (t == SlotLteTdd || t == SlotTdScdma)
+        return 0;
+    if (t == SlotWimax && knowsBandAs(SlotWimax, bandText, TimeDivision))
+        return 0;
+
+    const int n = recordCount(b);
+    for (int i = 0; i < n; ++i) {
+        const stSubBand &r = b.SubBands[i];
+        if (!holdsChannel(r, channel))
+            continue;
+        // Pairs stand uplink first, downlink second; a record without its
+        // partner has no offset.
+        if (r.Link == 1)
+            return i + 1 < n ? wrappedDifference(r.StartChannelNo, b.SubBands[i + 1].StartChannelNo)
+                             : 0;
+        return i > 0 ? wrappedDifference(b.SubBands[i - 1].StartChannelNo, r.StartChannelNo) : 0;
+    }
+    return 0;
+}
+
+int ChBandStore::GetChNumFromFreq(QString tech, QString band, int link, double freqMHz,
+                                  int preferred) const
+{
+    return chNumFromFreqIn(BandOf(tech, band), link, freqMHz, preferred);
 }
 
 int ChBandStore::GetChNumFromFreq(QString standard, int link, double freqMHz, int preferred) const
@@ -96,27 +124,8 @@ int ChBandStore::GetChNumFromFreq(QString standard, QString direction, double fr
 
 int ChBandStore::GetOffsetChUpDown(QString tech, QString band, int channel, int /*link*/) const
 {
-    // Time-division standards share channel numbers between the directions.
     const int t = LookupTechSlot(tech);
-    if (t == SlotLteTdd || t == SlotTdScdma)
-        return 0;
-    if (t == SlotWimax && CheckChannelStandardIsWiMax(band))
-        return 0;
-
-    const ChBand &b = Technologies[t].Bands[LookupBandSlot(t, band)];
-    const int n = recordCount(b);
-    for (int i = 0; i < n; ++i) {
-        const stSubBand &r = b.SubBands[i];
-        if (!holdsChannel(r, channel))
-            continue;
-        // Pairs stand uplink first, downlink second; a record without its
-        // partner has no offset.
-        if (r.Link == 1)
-            return i + 1 < n ? wrappedDifference(r.StartChannelNo, b.SubBands[i + 1].StartChannelNo)
-                             : 0;
-        return i > 0 ? wrappedDifference(b.SubBands[i - 1].StartChannelNo, r.StartChannelNo) : 0;
-    }
-    return 0;
+    return offsetChUpDownIn(t, Technologies[t].Bands[LookupBandSlot(t, band)], band, channel);
 }
 
 int ChBandStore::GetOffsetChUpDown(QString standard, int link, int channel) const

@@ -1,6 +1,7 @@
 // Band limits by name: edges, first and last channels, record counts, bandwidths.
 #include <saiskuko/chbandstore.h>
 
+#include "query/bandqueries.h"
 #include "store/recordrules.h"
 #include "store/technologies.h"
 
@@ -38,19 +39,28 @@ double ChBandStore::GetStartFreq(QString tech, QString band) const
     return BandOf(tech, band).SubBands[0].StartFreq;
 }
 
+double startFreqIn(const ChBand &b, int link)
+{
+    return outermostEdge(b, link, &stSubBand::StartFreq, std::less<double>());
+}
+
+double stopFreqIn(const ChBand &b, int link)
+{
+    return outermostEdge(b, link, &stSubBand::StopFreq, std::greater<double>());
+}
+
 double ChBandStore::GetStartFreq(QString tech, QString band, int link) const
 {
-    return outermostEdge(BandOf(tech, band), link, &stSubBand::StartFreq, std::less<double>());
+    return startFreqIn(BandOf(tech, band), link);
 }
 
 double ChBandStore::GetStopFreq(QString tech, QString band, int link) const
 {
-    return outermostEdge(BandOf(tech, band), link, &stSubBand::StopFreq, std::greater<double>());
+    return stopFreqIn(BandOf(tech, band), link);
 }
 
-int ChBandStore::GetStartChannelNo(QString tech, QString band, int link) const
+int startChannelIn(const ChBand &b, int link)
 {
-    const ChBand &b = BandOf(tech, band);
     const int n = recordCount(b);
     bool found = false;
     int lowest = 0;
@@ -72,9 +82,8 @@ int ChBandStore::GetStartChannelNo(QString tech, QString band, int link) const
     return lowest;
 }
 
-int ChBandStore::GetStopChannelNo(QString tech, QString band, int link) const
+int stopChannelIn(const ChBand &b, int link)
 {
-    const ChBand &b = BandOf(tech, band);
     const int n = recordCount(b);
     int highest = 0; // negative stop channels never win
     auto scan = [&](int wanted) {
@@ -89,6 +98,16 @@ int ChBandStore::GetStopChannelNo(QString tech, QString band, int link) const
         return highest;
     scan(fallbackLink(link));
     return highest;
+}
+
+int ChBandStore::GetStartChannelNo(QString tech, QString band, int link) const
+{
+    return startChannelIn(BandOf(tech, band), link);
+}
+
+int ChBandStore::GetStopChannelNo(QString tech, QString band, int link) const
+{
+    return stopChannelIn(BandOf(tech, band), link);
 }
 
 int ChBandStore::GetNumSubBand(QString tech, QString band) const

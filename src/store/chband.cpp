@@ -1,6 +1,7 @@
 // Bands and technology slots: their names and the records they hold.
 #include <saiskuko/chband.h>
 
+#include "store/bandnamefacts.h"
 #include "store/technologies.h"
 
 ChBand::ChBand(QObject *parent) : QObject(parent), IsGlobal(false), SubBands(), NumSubBand(0)
@@ -15,6 +16,9 @@ ChBand::~ChBand() = default;
 
 void ChBand::SetBandName(QString name)
 {
+    // Every record of a band sets its name again; the facts change only with it.
+    if (name != BandName)
+        ChBandNameFacts::set(*this, ChBandNameFacts::of(name));
     BandName = name;
     if (isGlobalBandName(BandName))
         IsGlobal = true;

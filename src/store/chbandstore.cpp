@@ -2,6 +2,7 @@
 #include <saiskuko/chbandstore.h>
 
 #include "store/diagnostics.h"
+#include "store/nameindex.h"
 #include "store/technologies.h"
 
 namespace {
@@ -23,8 +24,12 @@ ChBandStore::ChBandStore(QObject *parent) : QObject(parent)
 {
     announceVersion();
 
-    for (int slot = 0; slot < kNumTechSlots; ++slot)
+    NameIndex *const index = NameIndex::of(this);
+    for (int slot = 0; slot < kNumTechSlots; ++slot) {
         TechIndexMap.insert(techName(slot), slot);
+        if (index)
+            index->addTech(techName(slot), slot);
+    }
     for (int slot = 0; slot < NumCatalogs; ++slot)
         fillCatalogue(BandNameCatalog[slot], slot);
 
@@ -39,7 +44,8 @@ void ChBandStore::TestFunction()
 
 int ChBandStore::LookupTechSlot(const QString &tech) const
 {
-    const int slot = TechIndexMap.value(tech, 0);
+    const NameIndex *index = NameIndex::of(this);
+    const int slot = index ? index->tech(tech, 0) : TechIndexMap.value(tech, 0);
     return (slot >= 0 && slot < MaxTechnologies) ? slot : 0;
 }
 
@@ -47,7 +53,9 @@ int ChBandStore::LookupBandSlot(int techSlot, const QString &band) const
 {
     if (techSlot < 0 || techSlot >= MaxTechnologies)
         return 0;
-    const int slot = Technologies[techSlot].BandIndexMap.value(band, 0);
+    const NameIndex *index = NameIndex::of(this);
+    const int slot =
+        index ? index->band(techSlot, band, 0) : Technologies[techSlot].BandIndexMap.value(band, 0);
     return (slot >= 0 && slot < ChTechnology::MaxBands) ? slot : 0;
 }
 
@@ -77,9 +85,12 @@ void ChBandStore::SetBandInfo(QString tech, QString band, int startChannelNo, in
     ChTechnology &technology = Technologies[t];
     technology.SetTechName(tech);
 
+    NameIndex *const index = NameIndex::of(this);
     int b;
     if (technology.NumBand == 0) {
         technology.BandIndexMap.insert(band, 0);
+        if (index)
+            index->addBand(t, band, 0);
         technology.NumBand = 1;
         technology.Bands[0].NumSubBand = 0;
         b = 0;
@@ -90,6 +101,8 @@ void ChBandStore::SetBandInfo(QString tech, QString band, int startChannelNo, in
         } else {
             b = technology.NumBand;
             technology.BandIndexMap.insert(band, b);
+            if (index)
+                index->addBand(t, band, b);
             ++technology.NumBand;
         }
     }

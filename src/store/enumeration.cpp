@@ -17,19 +17,6 @@ QString keyOf(const QMap<QString, int> &map, int value)
     return QString();
 }
 
-// Splits a code into technology and band numbers. The remainder follows the
-// sign of the code, so negative codes never name a band.
-void splitCode(int code, int *tech, int *band)
-{
-    if (code == 0) {
-        *tech = 0;
-        *band = 0;
-        return;
-    }
-    *tech = code / 100;
-    *band = (*tech == 0) ? code : code % (100 * *tech);
-}
-
 } // namespace
 
 int ChBandStore::StrictEnumerator(const QString &tech, const QString &band) const
