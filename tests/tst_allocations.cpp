@@ -1,5 +1,5 @@
-// Queries by names run on every keystroke of the instrument's UI: they must
-// not touch the heap. Counts malloc/calloc/realloc around each call.
+// Queries by names and by enumerator run on every keystroke of the
+// instrument's UI: they must not touch the heap. Counts malloc/calloc/realloc around each call.
 
 #include <saiskuko/saiskuko.h>
 
@@ -86,6 +86,21 @@ private slots:
         QTest::newRow("enumerator and counts") << Query([&] {
             s.GetEnumulator(fdd, b1);
             s.GetNumBand(nr);
+        });
+        QTest::newRow("by enumerator") << Query([&] {
+            s.GetFreq(201, 0, 300);
+            s.GetFreq(723, 1, 650000); // time-division: the other link's record
+            s.GetChNumFromFreq(723, 0, 3750.0, -1);
+            s.IsExistChannelNo(201, 1, 18001);
+            s.GetStartChannelNo(201, 1);
+            s.GetStopChannelNo(201, 0);
+            s.GetStartFreq(201);
+            s.GetStartFreq(201, 1);
+            s.GetStopFreq(201, 0);
+            s.GetNumSubBand(201);
+            s.IsUplinkOnly(301);
+            s.GetOffsetChUpDown(201, 0, 300);
+            s.GetDefaultIntBW(723);
         });
         QTest::newRow("classifiers") << Query([&] {
             s.CheckChannelStandardIsLTETDD(b41);

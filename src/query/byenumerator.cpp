@@ -41,9 +41,8 @@ int ChBandStore::GetChNumFromFreq(int code, int link, double freqMHz, int prefer
 
 double ChBandStore::GetDefaultIntBW(int code) const
 {
-    return AnswerForBand(code, -1.0, [&](int t, const ChBand &, const QString &) {
-        return GetDefaultIntBW(techName(t));
-    });
+    return AnswerForBand(code, -1.0,
+                         [&](int t, const ChBand &, const QString &) { return defaultIntBwHz(t); });
 }
 
 bool ChBandStore::IsUplinkOnly(int code) const

@@ -185,6 +185,13 @@ constexpr TechnologyFacts kTechnologies[kNumTechSlots] = {
 // The integration bandwidth of a technology without one of its own, Hz.
 constexpr double kFallbackIntBwHz = 1000000.0;
 
+// The default integration bandwidth of a technology slot, Hz.
+inline double defaultIntBwHz(int slot)
+{
+    const double own = kTechnologies[slot].defaultIntBwHz;
+    return own > 0.0 ? own : kFallbackIntBwHz;
+}
+
 inline QString techName(int slot)
 {
     return QString::fromLatin1(kTechnologies[slot].name);
