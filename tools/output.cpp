@@ -1,3 +1,4 @@
+// Text for people: MHz, link words, padded tables; where the library's diagnostics go.
 #include "output.h"
 
 #include <algorithm>
