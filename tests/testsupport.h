@@ -74,6 +74,12 @@ inline QStringList printed(std::initializer_list<const char *> values)
     return {QLatin1String("out: ") + out};
 }
 
+// The debug line of every well-formed GetAvailableChannels call.
+inline QStringList counted(int channels)
+{
+    return {QStringLiteral("D AvailableChannels :  %1").arg(channels)};
+}
+
 // Every channel standard of the band plan as (technology slot, band slot).
 template <typename Visit>
 void forEachBand(const ChBandStore &store, Visit visit)

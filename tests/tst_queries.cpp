@@ -295,31 +295,16 @@ private slots:
     }
     void stopInSample() { checkRow(); }
 
-    // A miss writes its one line to standard output, never to the Qt log.
+    // A miss writes its one line to standard output, never to the Qt log,
+    // the value in six digits.
     void channelOfFreq_data()
     {
         // The channel argument is the preferred one.
         columns([](auto &s, auto &a, auto &t, auto &b) {
             return QString::number(s.GetChNumFromFreq(t, b, a.link, a.mhz, a.channel));
         });
-        // The unused entries of the list (-1) are no candidates.
-        row("first channel", {0, "GSM", "GSM 850", 1, -1, 824.2}, "128");
-        row("last channel", {0, "GSM", "GSM 850", 0, 251, 893.8000000000001}, "251");
-        row("off raster", {0, "GSM", "GSM 850", 1, -1, 824.3}, "-1", printed({"824.3"}));
-        row("one ulp off", {0, "GSM", "GSM 850", 1, 128, std::nextafter(824.2, 900.0)}, "-1",
-            printed({"824.2"}));
-        row("uplink-only, down", {0, "WIMAX", "ProfR26 (10 5275)", 0, -1, 5335.0}, "67");
-        // Channel 55 maps to 3698 MHz, beyond the record's upper edge.
-        row("beyond the edge", {0, "WIMAX", "ProfR9 (3.5 3651)", 1, -1, 3698.0}, "-1",
-            printed({"3698"}));
-        row("placeholder", {0, "LTE-FDD", "Band 29 (900)", 1, 1, 1.0}, "-1", printed({"1"}));
-        row("shared, no preference", {0, "LTE-FDD", "Band Global", 0, -1, 2140.0}, "300");
-        row("shared, preferred", {0, "LTE-FDD", "Band Global", 0, 66736, 2140.0}, "66736");
-        row("shared, stale preference", {0, "LTE-FDD", "Band Global", 0, 18300, 2140.0}, "300");
-        row("NaN", {0, "GSM", "GSM 850", 1, -1, kNaN}, "-1", printed({"nan"}));
-        row("+inf", {0, "GSM", "GSM 850", 1, -1, kInf}, "-1", printed({"inf"}));
-        row("-0.0", {0, "GSM", "GSM 850", 1, 0, -0.0}, "-1", printed({"-0"}));
-        row("six digits", {0, "GSM", "GSM 850", 1, -1, 1234567.5}, "-1", printed({"1.23457e+06"}));
+        // Answers on the band plan are held to the literal walk (tst_fastpaths);
+        // these are records the plan lacks and arguments out of range.
         row("earliest record first", {1, "GSM", "Flat", 1, -1, 500.0}, "900");
         row("tenth kept", {1, "GSM", "Flat", 1, 8, 500.0}, "8");
         row("eleventh dropped", {1, "GSM", "Flat", 1, 9, 500.0}, "900");
@@ -332,8 +317,6 @@ private slots:
         row("link and preference INT_MIN", {0, "GSM", "GSM 850", INT_MIN, INT_MIN, 824.2}, "-1",
             printed({"824.2"}));
         row("preference INT_MAX", {0, "GSM", "GSM 850", 1, INT_MAX, 824.2}, "128");
-        row("denormal", {0, "GSM", "GSM 850", 1, 0, -DBL_TRUE_MIN}, "-1",
-            printed({"-4.94066e-324"}));
         row("largest double", {0, "GSM", "GSM 850", 1, 0, DBL_MAX}, "-1",
             printed({"1.79769e+308"}));
     }
