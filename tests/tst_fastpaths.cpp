@@ -14,16 +14,9 @@ namespace {
 // either side, the half-raster point after each, its edges and beyond.
 QList<double> probesOf(const stSubBand &r)
 {
-    QList<double> probes = {r.StartFreq,
-                            r.StopFreq,
-                            r.StartFreq - 1.0,
-                            r.StopFreq + 1.0,
-                            std::nextafter(r.StartFreq, -kInf),
-                            std::nextafter(r.StopFreq, kInf),
-                            kNaN,
-                            kInf,
-                            -kInf,
-                            -0.0};
+    QList<double> probes = {kNaN, kInf, -kInf, -0.0, r.StartFreq - 1.0, r.StopFreq + 1.0};
+    probes << r.StartFreq << std::nextafter(r.StartFreq, -kInf) << r.StopFreq
+           << std::nextafter(r.StopFreq, kInf);
     const qint64 first = r.StartChannelNo, last = r.StopChannelNo;
     for (const qint64 ch : {first, first + (last - first) / 2, last}) {
         const double f = literal::freqAt(r, ch);
@@ -41,18 +34,17 @@ QList<QPair<double, double>> windowsOf(const stSubBand &r)
         literal::freqAt(r, r.StartChannelNo + (qint64(r.StopChannelNo) - r.StartChannelNo) / 2);
     const double raster =
         literal::freqAt(r, qint64(r.StartChannelNo) + 1) - literal::freqAt(r, r.StartChannelNo);
-    return {{mid, mid},
-            {mid - raster / 2, mid + raster / 2},
-            {mid - raster, mid + raster},
-            {mid - 10 * raster, mid + 3.3 * raster},
-            {r.StartFreq, r.StopFreq},
-            {-kInf, kInf},
-            {mid + raster, mid - raster},
-            {kNaN, mid},
-            {mid, kNaN},
-            {std::nextafter(mid, kInf), mid + 100 * raster},
-            {-kInf, mid},
-            {mid, kInf}};
+    QList<QPair<double, double>> windows = {{r.StartFreq, r.StopFreq},
+                                            {-kInf, kInf},
+                                            {kNaN, mid},
+                                            {mid, kNaN},
+                                            {-kInf, mid},
+                                            {mid, kInf}};
+    for (const double k : {0.0, 0.5, 1.0, -1.0}) // the last one reversed
+        windows.append({mid - k * raster, mid + k * raster});
+    windows.append({mid - 10 * raster, mid + 3.3 * raster});
+    windows.append({std::nextafter(mid, kInf), mid + 100 * raster});
+    return windows;
 }
 
 QString at(const QString &tech, const QString &band, double f)
