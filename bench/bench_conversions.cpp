@@ -2,6 +2,7 @@
 // call of the record's own formula (the floor for this work), with the ratios printed last.
 
 #include "messagecapture.h"
+#include "timingreporter.h"
 
 #include <saiskuko/saiskuko.h>
 
@@ -89,36 +90,22 @@ void registerCase(const Case &c, int link)
 #undef SAISKUKO_BENCH
 }
 
-// Keeps each benchmark's time so that every query can be set against the
-// direct formula call of its own band and link.
-class RatioReporter : public benchmark::ConsoleReporter
+// Sets every query against the direct formula call of its own band and link.
+class RatioReporter : public TimingReporter
 {
 public:
-    void ReportRuns(const std::vector<Run> &runs) override
-    {
-        for (const Run &run : runs) {
-            if (run.run_type == Run::RT_Iteration && run.iterations > 0)
-                m_ns[run.benchmark_name()] = run.GetAdjustedRealTime() * 1e9
-                                             / benchmark::GetTimeUnitMultiplier(run.time_unit);
-        }
-        ConsoleReporter::ReportRuns(runs);
-    }
-
     void printRatios() const
     {
         std::printf("\n%-40s %10s %10s\n", "query / form / band / link", "ns", "x formula");
-        for (const auto &[name, ns] : m_ns) {
+        for (const auto &[name, ns] : nanoseconds) {
             const std::size_t band = name.find('/', name.find('/') + 1);
             if (name.rfind("Formula/", 0) == 0 || band == std::string::npos)
                 continue;
-            const auto floor = m_ns.find("Formula" + name.substr(band));
-            if (floor != m_ns.end() && floor->second > 0.0)
+            const auto floor = nanoseconds.find("Formula" + name.substr(band));
+            if (floor != nanoseconds.end() && floor->second > 0.0)
                 std::printf("%-40s %10.1f %10.1f\n", name.c_str(), ns, ns / floor->second);
         }
     }
-
-private:
-    std::map<std::string, double> m_ns;
 };
 
 } // namespace

@@ -4,6 +4,7 @@
 
 #include "literalwalks.h"
 #include "messagecapture.h"
+#include "timingreporter.h"
 
 #include <saiskuko/saiskuko.h>
 
@@ -106,23 +107,10 @@ void GetFreq_TimeDivisionOtherLink(benchmark::State &state)
         benchmark::DoNotOptimize(G_CHSTD.GetFreq(tdd, band41, 0, 41000));
 }
 
-// Collects mean times per benchmark so the ratios can be printed at the end.
-class RatioReporter : public benchmark::ConsoleReporter
+// Sets each literal walk against the library's search for the same question.
+class RatioReporter : public TimingReporter
 {
 public:
-    std::map<std::string, double> nanoseconds;
-
-    void ReportRuns(const std::vector<Run> &runs) override
-    {
-        for (const Run &run : runs) {
-            if (run.run_type == Run::RT_Iteration && run.iterations > 0)
-                nanoseconds[run.benchmark_name()] =
-                    run.GetAdjustedRealTime() * 1e9
-                    / benchmark::GetTimeUnitMultiplier(run.time_unit);
-        }
-        ConsoleReporter::ReportRuns(runs);
-    }
-
     void printRatios() const
     {
         std::printf("\n%-44s %14s %14s %10s\n", "literal walk / library", "walk", "library",

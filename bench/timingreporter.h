@@ -1,0 +1,31 @@
+#ifndef SAISKUKO_BENCH_TIMINGREPORTER_H
+#define SAISKUKO_BENCH_TIMINGREPORTER_H
+
+// The console report, keeping each benchmark's time per iteration as well, so
+// that a program can print ratios between benchmarks of the same run: on a
+// shared, noisy machine only ratios from one run mean anything.
+
+#include <benchmark/benchmark.h>
+
+#include <map>
+#include <string>
+#include <vector>
+
+class TimingReporter : public benchmark::ConsoleReporter
+{
+public:
+    void ReportRuns(const std::vector<Run> &runs) override
+    {
+        for (const Run &run : runs) {
+            if (run.run_type == Run::RT_Iteration && run.iterations > 0)
+                nanoseconds[run.benchmark_name()] =
+                    run.GetAdjustedRealTime() * 1e9
+                    / benchmark::GetTimeUnitMultiplier(run.time_unit);
+        }
+        ConsoleReporter::ReportRuns(runs);
+    }
+
+    std::map<std::string, double> nanoseconds; // by benchmark name
+};
+
+#endif
