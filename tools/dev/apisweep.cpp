@@ -9,7 +9,6 @@
 #include <QtCore/QtGlobal>
 
 #include <climits>
-#include <cstdarg>
 #include <cstdio>
 #include <iostream>
 #include <limits>
@@ -67,13 +66,11 @@ void onMessage(QtMsgType type, const QMessageLogContext &, const QString &text)
     std::printf("  msg %s %s\n", kind, quoted(text).c_str());
 }
 
-std::string text(const char *format, ...)
+template <typename... Values>
+std::string text(const char *format, Values... values)
 {
     char buffer[512];
-    va_list args;
-    va_start(args, format);
-    std::vsnprintf(buffer, sizeof buffer, format, args);
-    va_end(args);
+    std::snprintf(buffer, sizeof buffer, format, values...);
     return buffer;
 }
 
