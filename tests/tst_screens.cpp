@@ -1,3 +1,4 @@
+// Screen texts: frequency search, channel windows, reference strings, mode tables.
 #include "testsupport.h"
 
 #include <cfloat>
@@ -172,6 +173,8 @@ private slots:
             "(0 - 599) | (0 - 599) | (2110.00 - 2169.90)");
         row("LTE-FDD selector -3", {0, "LTE-FDD", "Band 1 (2100)", -3},
             "(18000 - 18599) | (18000 - 18599) | (-1.00 - -1.00)");
+        row("WCDMA downlink", {0, "WCDMA", "Band 1 (2100-General)", 0},
+            "(10562 - 10838) | (10562 - 10838) | (2112.40 - 2167.60)");
         row("5G NR 3799.995", {0, "5G NR", "Band n78 (TD 3500)", 0},
             "(620000 - 653333) | (620000 - 653333) | (3300.00 - 3799.99)");
         // The given band name decides: a blank for "Band Global" under any name.
