@@ -117,12 +117,5 @@ int main(int argc, char **argv)
         registerCase(c, 0);
         registerCase(c, 1);
     }
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv))
-        return 1;
-    RatioReporter reporter;
-    benchmark::RunSpecifiedBenchmarks(&reporter);
-    reporter.printRatios();
-    benchmark::Shutdown();
-    return 0;
+    return runAndPrintRatios<RatioReporter>(argc, argv);
 }

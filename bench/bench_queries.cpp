@@ -144,12 +144,5 @@ BENCHMARK(GetFreq_TimeDivisionOtherLink);
 
 int main(int argc, char **argv)
 {
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv))
-        return 1;
-    RatioReporter reporter;
-    benchmark::RunSpecifiedBenchmarks(&reporter);
-    reporter.printRatios();
-    benchmark::Shutdown();
-    return 0;
+    return runAndPrintRatios<RatioReporter>(argc, argv);
 }

@@ -28,4 +28,19 @@ public:
     std::map<std::string, double> nanoseconds; // by benchmark name
 };
 
+// Runs the benchmarks the command line selects, then prints the ratios of a
+// TimingReporter with a printRatios() member.
+template <typename Reporter>
+int runAndPrintRatios(int argc, char **argv)
+{
+    benchmark::Initialize(&argc, argv);
+    if (benchmark::ReportUnrecognizedArguments(argc, argv))
+        return 1;
+    Reporter reporter;
+    benchmark::RunSpecifiedBenchmarks(&reporter);
+    reporter.printRatios();
+    benchmark::Shutdown();
+    return 0;
+}
+
 #endif
