@@ -429,7 +429,7 @@ QString shortName(const BandRef &band)
     const QStringList techs = techAliases(band.tech) << techName(band.tech);
     for (const QString &tech : techs) {
         for (const QString &key : keys) {
-            const QString candidate = tech.toUpper() + QLatin1Char(':') + key;
+            QString candidate = tech.toUpper() + QLatin1Char(':') + key;
             try {
                 if (!candidate.contains(QLatin1Char(' '))
                     && resolveBand(candidate).code() == band.code())

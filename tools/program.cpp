@@ -294,6 +294,61 @@ QString commandNames()
     return names.join(QLatin1String(", "));
 }
 
+QString value(const QCommandLineParser &parser, const char *name)
+{
+    return unmarked(parser.value(QLatin1String(name)));
+}
+
+// The options a command reads, from a parsed command line.
+CommandOptions commandOptions(const QCommandLineParser &parser)
+{
+    const auto isSet = [&](const char *name) { return parser.isSet(QLatin1String(name)); };
+    CommandOptions options;
+    if (isSet("ul"))
+        options.links << 1;
+    if (isSet("dl"))
+        options.links << 0;
+    options.nearest = isSet("nearest");
+    if (isSet("preferred")) {
+        bool ok = false;
+        options.hasPreferred = true;
+        options.preferred = value(parser, "preferred").trimmed().toInt(&ok, 10);
+        if (!ok)
+            throw BadInput(QLatin1String("--preferred ") + echoed(value(parser, "preferred"))
+                           + QLatin1String(" is not a channel number"));
+    }
+    if (isSet("link")) {
+        const QString link = value(parser, "link").trimmed();
+        if (link != QLatin1String("0") && link != QLatin1String("1"))
+            throw BadInput(QLatin1String("--link ") + echoed(value(parser, "link"))
+                           + QLatin1String(" must be 0 (downlink) or 1 (uplink)"));
+        options.link = link.toInt();
+    }
+    return options;
+}
+
+// What is wrong with the number of arguments or the options given to a
+// command, or an empty string.
+QString misuseOf(const Command &command, const QStringList &arguments,
+                 const QCommandLineParser &parser)
+{
+    if (arguments.size() < command.minArgs
+        || (command.maxArgs >= 0 && arguments.size() > command.maxArgs))
+        return QStringLiteral("%1 takes %2 (usage: saiskuko %3)")
+            .arg(QLatin1String(command.name),
+                 command.maxArgs == 0                 ? QStringLiteral("no arguments")
+                 : arguments.size() < command.minArgs ? QStringLiteral("more arguments")
+                                                      : QStringLiteral("fewer arguments"),
+                 commandCall(command));
+    const QStringList takes = QString::fromLatin1(command.options).split(QLatin1Char(' '));
+    for (const OptionSpec &spec : kOptions) {
+        const QString option = namesOf(spec).constLast();
+        if (!spec.common && parser.isSet(option) && !takes.contains(option))
+            return QStringLiteral("%1 does not take --%2").arg(QLatin1String(command.name), option);
+    }
+    return {};
+}
+
 // One command line, without the program's name.
 int runWords(const QStringList &words, const Run &run)
 {
@@ -305,9 +360,6 @@ int runWords(const QStringList &words, const Run &run)
                         : QCommandLineOption(namesOf(spec)));
     parser.addOptions(options);
     const auto isSet = [&](const char *name) { return parser.isSet(QLatin1String(name)); };
-    const auto value = [&](const char *name) {
-        return unmarked(parser.value(QLatin1String(name)));
-    };
 
     const bool parsed = parser.parse(
         protectNegativeNumbers(QStringList{QStringLiteral("saiskuko")} + run.inherited + words));
@@ -327,7 +379,7 @@ int runWords(const QStringList &words, const Run &run)
         return ExitBadInput;
     };
     if (!parsed)
-        return fail(parser.errorText() + QLatin1String(" (see: saiskuko --help)"));
+        return fail(cut(parser.errorText()) + QLatin1String(" (see: saiskuko --help)"));
 
     if (isSet("help") || isSet("man") || isSet("completion")) {
         run.out << (isSet("help") ? helpText() : isSet("man") ? manText() : completionText());
@@ -347,21 +399,9 @@ int runWords(const QStringList &words, const Run &run)
     if (!command)
         return fail(QLatin1String("unknown command ") + echoed(name) + QLatin1String("; commands: ")
                     + commandNames());
-    if (arguments.size() < command->minArgs
-        || (command->maxArgs >= 0 && arguments.size() > command->maxArgs))
-        return fail(QStringLiteral("%1 takes %2 (usage: saiskuko %3)")
-                        .arg(QLatin1String(command->name),
-                             command->maxArgs == 0 ? QStringLiteral("no arguments")
-                             : arguments.size() < command->minArgs
-                                 ? QStringLiteral("more arguments")
-                                 : QStringLiteral("fewer arguments"),
-                             commandCall(*command)));
-    const QStringList takes = QString::fromLatin1(command->options).split(QLatin1Char(' '));
-    for (const OptionSpec &spec : kOptions) {
-        const QString option = namesOf(spec).constLast();
-        if (!spec.common && isSet(spec.names) && !takes.contains(option))
-            return fail(QStringLiteral("%1 does not take --%2").arg(name, option));
-    }
+    const QString misuse = misuseOf(*command, arguments, parser);
+    if (!misuse.isEmpty())
+        return fail(misuse);
     if (!command->run) {
         if (run.batchLine)
             return fail(QStringLiteral("batch does not run within batch"));
@@ -374,27 +414,7 @@ int runWords(const QStringList &words, const Run &run)
     }
 
     try {
-        CommandOptions options;
-        if (isSet("ul"))
-            options.links << 1;
-        if (isSet("dl"))
-            options.links << 0;
-        options.nearest = isSet("nearest");
-        if (isSet("preferred")) {
-            bool ok = false;
-            options.hasPreferred = true;
-            options.preferred = value("preferred").trimmed().toInt(&ok, 10);
-            if (!ok)
-                throw BadInput(QLatin1String("--preferred ") + echoed(value("preferred"))
-                               + QLatin1String(" is not a channel number"));
-        }
-        if (isSet("link")) {
-            const QString link = value("link").trimmed();
-            if (link != QLatin1String("0") && link != QLatin1String("1"))
-                throw BadInput(QLatin1String("--link ") + echoed(value("link"))
-                               + QLatin1String(" must be 0 (downlink) or 1 (uplink)"));
-            options.link = link.toInt();
-        }
+        const CommandOptions options = commandOptions(parser);
         const Outcome outcome = command->run(arguments, options);
         if (json)
             writeJson(run, name, arguments, outcome.status, outcome.notes, outcome.json);
