@@ -55,7 +55,7 @@ const char *const kNaming =
     "                               GSM:dcs1800, GSM:e900, CDMA:0, TDS:0, WIMAX:r1,\n"
     "                               WCDMA:2-additional, WCDMA:21-3500, FDD:global\n"
     "  B1, b1, band1                an LTE band; N78 an NR band; bc0 a CDMA band class\n"
-    "  WCDMA:I, WCDMA:IV            UTRA bands in Roman numerals; LTE:07, NR:n078\n"
+    "  WCDMA:I, WCDMA:VIII          UTRA bands in Roman numerals; LTE:07, NR:n078\n"
     "                               leading zeros\n"
     "  A name that fits no band or several is an error that lists the candidates.\n";
 const char *const kNotes =
