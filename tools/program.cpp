@@ -20,7 +20,7 @@ namespace {
 
 // Every option of the program. The commands name the ones they take; the
 // common ones go with every command.
-struct OptionSpec
+struct ProgramOption
 {
     const char *names; // blank-separated, long name last
     const char *value; // the value's name, or nullptr for a switch
@@ -30,7 +30,7 @@ struct OptionSpec
 };
 
 // clang-format off
-const OptionSpec kOptions[] = {
+const ProgramOption kOptions[] = {
     {"ul", nullptr, "only uplink (freq, channel, search, channels, which);\n"
                     "default: every direction the band has", false, false},
     {"dl", nullptr, "only downlink", false, false},
@@ -72,12 +72,12 @@ const char *const kExit =
 const char *const kSummary = "Looks up the band plan of CDMA, GSM, LTE, TD-SCDMA, WCDMA, WiMAX "
                              "and 5G NR:\nchannels, centre frequencies and bands.\n";
 
-QStringList namesOf(const OptionSpec &option)
+QStringList namesOf(const ProgramOption &option)
 {
     return QString::fromLatin1(option.names).split(QLatin1Char(' '));
 }
 
-QString optionCall(const OptionSpec &option)
+QString optionCall(const ProgramOption &option)
 {
     QStringList calls;
     for (const QString &name : namesOf(option))
@@ -106,7 +106,7 @@ QString commandsText()
 QString optionsText()
 {
     QString text;
-    for (const OptionSpec &option : kOptions) {
+    for (const ProgramOption &option : kOptions) {
         if (option.hidden)
             continue;
         const QStringList lines = QString::fromLatin1(option.help).split(QLatin1Char('\n'));
@@ -173,7 +173,7 @@ QString completionText()
     QStringList commandNames, optionNames, techs;
     for (const Command &command : commands())
         commandNames << QLatin1String(command.name);
-    for (const OptionSpec &option : kOptions) {
+    for (const ProgramOption &option : kOptions) {
         for (const QString &name : namesOf(option)) {
             if (!option.hidden && name.size() > 1)
                 optionNames << QLatin1String("--") + name;
@@ -341,9 +341,9 @@ QString misuseOf(const Command &command, const QStringList &arguments,
                                                       : QStringLiteral("fewer arguments"),
                  commandCall(command));
     const QStringList takes = QString::fromLatin1(command.options).split(QLatin1Char(' '));
-    for (const OptionSpec &spec : kOptions) {
-        const QString option = namesOf(spec).constLast();
-        if (!spec.common && parser.isSet(option) && !takes.contains(option))
+    for (const ProgramOption &entry : kOptions) {
+        const QString option = namesOf(entry).constLast();
+        if (!entry.common && parser.isSet(option) && !takes.contains(option))
             return QStringLiteral("%1 does not take --%2").arg(QLatin1String(command.name), option);
     }
     return {};
@@ -354,10 +354,10 @@ int runWords(const QStringList &words, const Run &run)
 {
     QCommandLineParser parser;
     QList<QCommandLineOption> options;
-    for (const OptionSpec &spec : kOptions)
-        options << (spec.value
-                        ? QCommandLineOption(namesOf(spec), QString(), QLatin1String(spec.value))
-                        : QCommandLineOption(namesOf(spec)));
+    for (const ProgramOption &entry : kOptions)
+        options << (entry.value
+                        ? QCommandLineOption(namesOf(entry), QString(), QLatin1String(entry.value))
+                        : QCommandLineOption(namesOf(entry)));
     parser.addOptions(options);
     const auto isSet = [&](const char *name) { return parser.isSet(QLatin1String(name)); };
 
