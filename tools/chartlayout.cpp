@@ -1,9 +1,8 @@
 // The chart's content and geometry: rows of bands, bars of records, ticks, marks and legend.
 #include "chartlayout.h"
 
+#include "lookup.h"
 #include "output.h"
-
-#include <QtCore/QSet>
 
 #include <algorithm>
 #include <cmath>
@@ -19,16 +18,10 @@ constexpr double kPlotWidth = 960;
 constexpr double kBarHeight = 10;
 constexpr double kLegendSwatch = 14;
 
-// Time-division bands share one frequency range between the links, so their
-// records are drawn as one kind of bar.
-bool drawnAsTimeDivision(const BandRef &band)
-{
-    return isTimeDivisionBand(band.bandName());
-}
-
+// A TDD band's links share one frequency range: one kind of bar for both.
 BarKind barKindOf(const BandRef &band, const stSubBand &record)
 {
-    if (drawnAsTimeDivision(band) || record.UplinkOnly)
+    if (band.duplex() == Duplex::Tdd)
         return BarKind::TimeDivision;
     return record.Link == 1 ? BarKind::Uplink : BarKind::Downlink;
 }
@@ -104,25 +97,15 @@ QString tickLabel(double mhz, double step)
 }
 
 // The hits of the frequency search at a mark, as the search command lists
-// them: real channels of the charted technologies, one per band and link.
+// them, of the charted technologies.
 QStringList markLines(double mhz, const QList<int> &techSlots)
 {
     QStringList lines{formatMHz(mhz) + QStringLiteral(" MHz")};
-    QSet<QString> seen;
-    for (const ChInfo &info : store().GetChInfoFromFreq(mhz)) {
-        const BandRef band = bandByNames(info.techName, info.bandName);
-        if (band.tech < 0 || info.channelNo < 0 || isGlobalBandName(info.bandName))
-            continue;
-        if (!techSlots.isEmpty() && !techSlots.contains(band.tech))
-            continue;
-        double centre = 0;
-        const QString key = QStringLiteral("%1/%2").arg(band.code()).arg(info.linkDirection);
-        if (seen.contains(key) || !channelFreq(band, info.linkDirection, info.channelNo, &centre))
-            continue;
-        seen.insert(key);
-        lines << band.techName() + QLatin1Char(' ') + band.bandName() + QLatin1Char(' ')
-                     + linkShort(info.linkDirection) + QStringLiteral(" ch ")
-                     + QString::number(info.channelNo);
+    for (const SearchHit &hit : searchHits(mhz)) {
+        if (techSlots.isEmpty() || techSlots.contains(hit.band.tech))
+            lines << hit.band.techName() + QLatin1Char(' ') + hit.band.bandName() + QLatin1Char(' ')
+                         + linkShort(hit.link) + QStringLiteral(" ch ")
+                         + QString::number(hit.channel);
     }
     return lines;
 }
