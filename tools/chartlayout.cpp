@@ -176,9 +176,11 @@ QList<double> chartTicks(double lowMHz, double highMHz)
             break;
     }
     QList<double> ticks;
-    // Multiples of the step, so that the values print round.
-    for (double k = std::ceil(lowMHz / step); k * step <= highMHz; k += 1)
-        ticks << k * step;
+    // Multiples of the step, so that the values print round; bounded, for a
+    // window too narrow for its magnitude to step through.
+    const double first = std::ceil(lowMHz / step);
+    for (int i = 0; i < 16 && (first + i) * step <= highMHz; ++i)
+        ticks << (first + i) * step;
     return ticks;
 }
 
