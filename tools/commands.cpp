@@ -2,11 +2,12 @@
 #include "commands.h"
 
 #include "bandname.h"
+#include "chartsvg.h"
 #include "lookup.h"
 
+#include <QtCore/QFile>
 #include <QtCore/QJsonArray>
 #include <QtCore/QMap>
-#include <QtCore/QSet>
 
 #include <algorithm>
 #include <cmath>
@@ -381,36 +382,18 @@ Outcome runSearch(const QStringList &args, const CommandOptions &options)
     for (int i = 0; i < freqs.size(); ++i) {
         const double f = freqs[i];
         QJsonArray hits;
-        QSet<QString> seen;
-        for (const ChInfo &info : store().GetChInfoFromFreq(f)) {
-            const BandRef band = bandByNames(info.techName, info.bandName);
-            if (band.tech < 0 || info.channelNo < 0)
+        for (const SearchHit &hit : searchHits(f)) {
+            if (!options.links.isEmpty() && !options.links.contains(hit.link))
                 continue;
-            // A TDD band holds the frequency in both directions, however many
-            // records the library found it in.
-            QList<int> links{info.linkDirection};
-            if (band.duplex() == Duplex::Tdd)
-                links = {1, 0};
-            for (int link : links) {
-                if (!options.links.isEmpty() && !options.links.contains(link))
-                    continue;
-                // A band can hold the frequency in several records of one
-                // link; the first hit is the nearest, the others add nothing.
-                const QString key = QStringLiteral("%1/%2").arg(band.code()).arg(link);
-                double centre = 0;
-                if (seen.contains(key) || !channelFreq(band, link, info.channelNo, &centre))
-                    continue;
-                seen.insert(key);
-                table.addRow({args[i].trimmed(), QString::number(band.code()), band.techName(),
-                              band.bandName(), linkShort(link), QString::number(info.channelNo),
-                              formatMHz(centre), formatMHz(info.freqOffset)});
-                QJsonObject hit = band.toJson();
-                hit.insert(QStringLiteral("direction"), linkWord(link));
-                hit.insert(QStringLiteral("channel"), info.channelNo);
-                hit.insert(QStringLiteral("channelMHz"), centre);
-                hit.insert(QStringLiteral("offsetMHz"), info.freqOffset);
-                hits.append(hit);
-            }
+            table.addRow({args[i].trimmed(), QString::number(hit.band.code()), hit.band.techName(),
+                          hit.band.bandName(), linkShort(hit.link), QString::number(hit.channel),
+                          formatMHz(hit.centreMHz), formatMHz(hit.offsetMHz)});
+            QJsonObject item = hit.band.toJson();
+            item.insert(QStringLiteral("direction"), linkWord(hit.link));
+            item.insert(QStringLiteral("channel"), hit.channel);
+            item.insert(QStringLiteral("channelMHz"), hit.centreMHz);
+            item.insert(QStringLiteral("offsetMHz"), hit.offsetMHz);
+            hits.append(item);
         }
         if (hits.isEmpty())
             out.notes << QLatin1String("no band holds ") + cut(args[i].trimmed())
@@ -621,6 +604,48 @@ Outcome runWhich(const QStringList &args, const CommandOptions &options)
 
 } // namespace
 
+Outcome runChart(const QStringList &args, const CommandOptions &options)
+{
+    ChartRequest request;
+    request.lowMHz = parseMHz(args[0]);
+    request.highMHz = parseMHz(args[1]);
+    if (!(request.lowMHz < request.highMHz))
+        throw BadInput(QStringLiteral("chart: LOW must be below HIGH"));
+    for (const QString &tech : options.techs)
+        request.techSlots << resolveTech(tech);
+    for (const QString &mark : options.marks) {
+        request.marksMHz << parseMHz(mark);
+        if (request.marksMHz.last() < request.lowMHz || request.marksMHz.last() > request.highMHz)
+            throw BadInput(QLatin1String("mark ") + echoed(mark)
+                           + QLatin1String(" lies outside the chart's window"));
+    }
+
+    Outcome out;
+    const ChartLayout layout = layoutChart(request);
+    out.json = QJsonObject{{QStringLiteral("lowMHz"), request.lowMHz},
+                           {QStringLiteral("highMHz"), request.highMHz},
+                           {QStringLiteral("bands"), layout.rows.size()},
+                           {QStringLiteral("bars"), layout.barCount()}};
+    if (layout.rows.isEmpty()) {
+        out.status = ExitNoResult;
+        out.notes << QStringLiteral("no band has a record between %1 and %2 MHz")
+                         .arg(formatMHz(request.lowMHz), formatMHz(request.highMHz));
+        return out;
+    }
+    const QByteArray svg = chartSvg(layout);
+    if (options.outputFile.isEmpty()) {
+        out.text = QString::fromUtf8(svg);
+        out.json.insert(QStringLiteral("svg"), out.text);
+        return out;
+    }
+    QFile file(options.outputFile);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate) || file.write(svg) != svg.size()
+        || !file.flush())
+        throw BadInput(QLatin1String("cannot write ") + echoed(options.outputFile));
+    out.json.insert(QStringLiteral("file"), options.outputFile);
+    return out;
+}
+
 const QList<Command> &commands()
 {
     static const QList<Command> list{
@@ -639,6 +664,8 @@ const QList<Command> &commands()
          "link", runTable},
         {"which", "CHANNEL...", "every band and direction that has CHANNEL", 1, -1, "ul dl",
          runWhich},
+        {"chart", "LOW HIGH", "an SVG picture of the bands between LOW and HIGH MHz", 2, 2,
+         "tech mark output", runChart},
         {"batch", "[FILE]", "one command per line of FILE (or standard input)", 0, 1, "", nullptr},
     };
     return list;

@@ -15,6 +15,9 @@ struct CommandOptions
     int preferred = -1; // --preferred
     int link = 0;       // --link, for table
     bool nearest = false;
+    QStringList techs;  // --tech, for chart: technologies to draw
+    QStringList marks;  // --mark, for chart: frequencies to mark
+    QString outputFile; // -o, for chart: where the SVG goes instead of stdout
 };
 
 struct Command

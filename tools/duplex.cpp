@@ -38,6 +38,10 @@ const ChBand *bandData(const QString &tech, const QString &band)
     return b == bands.constEnd() ? nullptr : &store.Technologies[t.value()].Bands[b.value()];
 }
 
+// Every band from 24.25 GHz up (millimetre wave) shares its range in time;
+// their names say only the frequency ("Band n257 (28 GHz)").
+constexpr double kMillimetreWaveMHz = 24250.0;
+
 } // namespace
 
 Duplex duplexOf(const QString &tech, const QString &band)
@@ -51,7 +55,7 @@ Duplex duplexOf(const QString &tech, const QString &band)
     const ChBand *data = bandData(tech, band);
     if (!data)
         return Duplex::Fdd;
-    bool up = false, down = false;
+    bool up = false, down = false, millimetreWave = false;
     for (int i = 0; i < recordCount(*data); ++i) {
         const stSubBand &r = data->SubBands[i];
         if (isPlaceholder(r))
@@ -59,6 +63,7 @@ Duplex duplexOf(const QString &tech, const QString &band)
         // A downlink record flagged as serving both directions (n41, n77).
         if (r.Link == 0 && r.UplinkOnly)
             return Duplex::Tdd;
+        millimetreWave = millimetreWave || r.StartFreq >= kMillimetreWaveMHz;
         up = up || r.Link == 1;
         down = down || r.Link == 0;
     }
@@ -68,6 +73,8 @@ Duplex duplexOf(const QString &tech, const QString &band)
         if (nameSays(band, word.word))
             return word.duplex;
     }
+    if (millimetreWave)
+        return Duplex::Tdd;
     return down ? Duplex::Sdl : Duplex::Sul;
 }
 

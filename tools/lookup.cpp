@@ -3,6 +3,7 @@
 
 #include "duplex.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -107,4 +108,30 @@ bool pairedChannel(const BandRef &band, int link, int channel, int *paired)
         return false;
     *paired = link == 1 ? channel - offset : channel + offset;
     return true;
+}
+
+QList<SearchHit> searchHits(double mhz)
+{
+    QList<SearchHit> hits;
+    for (const ChInfo &info : store().GetChInfoFromFreq(mhz)) {
+        const BandRef band = bandByNames(info.techName, info.bandName);
+        if (band.tech < 0 || info.channelNo < 0)
+            continue;
+        // A TDD band holds the frequency in both directions, however many
+        // records the library found it in.
+        QList<int> links{info.linkDirection};
+        if (band.duplex() == Duplex::Tdd)
+            links = {1, 0};
+        for (int link : links) {
+            // A band can hold the frequency in several records of one link;
+            // the first hit is the nearest, the others add nothing.
+            const bool seen = std::any_of(hits.begin(), hits.end(), [&](const SearchHit &h) {
+                return h.band.code() == band.code() && h.link == link;
+            });
+            SearchHit hit{band, link, info.channelNo, 0, info.freqOffset};
+            if (!seen && channelFreq(band, link, info.channelNo, &hit.centreMHz))
+                hits.append(hit);
+        }
+    }
+    return hits;
 }

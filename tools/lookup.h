@@ -39,4 +39,20 @@ bool nearestChannel(const BandRef &band, int link, double mhz, ChannelHit *hit);
 // not FDD or the pair shares the channel number.
 bool pairedChannel(const BandRef &band, int link, int channel, int *paired);
 
+// One hit of the frequency search: a band and direction holding the
+// frequency, and its channel nearest to it.
+struct SearchHit
+{
+    BandRef band;
+    int link = -1;
+    int channel = -1;
+    double centreMHz = 0; // the channel's centre
+    double offsetMHz = 0; // the centre minus the searched frequency
+};
+
+// The library's frequency search as the program shows it, nearest first: one
+// hit per band and direction, both directions of a TDD band, real channels
+// only.
+QList<SearchHit> searchHits(double mhz);
+
 #endif

@@ -38,6 +38,10 @@ const ProgramOption kOptions[] = {
     {"nearest", nullptr, "channel: the nearest channel of each direction and its\n"
                          "offset, for a frequency off the raster", false, false},
     {"link", "0|1", "table: 0 downlink ranges (default), 1 uplink ranges", false, false},
+    {"tech", "T", "chart: only technology T (repeatable; short names as for bands)", false, false},
+    {"mark", "MHZ", "chart: a line at MHZ, labelled with the bands and channels\n"
+                    "there (repeatable)", false, false},
+    {"o output", "FILE", "chart: write the SVG to FILE instead of stdout", false, false},
     {"json", nullptr, "JSON on stdout, full precision; in batch one document a line", true, false},
     {"verbose", nullptr, "show the library's banner and diagnostics on stderr", true, false},
     {"q quiet", nullptr, "no library diagnostics (the default)", true, false},
@@ -309,6 +313,10 @@ CommandOptions commandOptions(const QCommandLineParser &parser)
     if (isSet("dl"))
         options.links << 0;
     options.nearest = isSet("nearest");
+    options.techs = parser.values(QStringLiteral("tech"));
+    for (const QString &mark : parser.values(QStringLiteral("mark")))
+        options.marks << unmarked(mark);
+    options.outputFile = value(parser, "output");
     if (isSet("preferred")) {
         bool ok = false;
         options.hasPreferred = true;

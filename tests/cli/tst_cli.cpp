@@ -137,6 +137,12 @@ private slots:
         row("search 100000", 1, "", "no band holds 100000 MHz");
         row("channel LTE:1 2140.05", 1, "", "2140.05 MHz is not a channel centre");
         row("table 2", 1, "", "mode 2 has no band table");
+        row("chart 1000 700", 2, "", "chart: LOW must be below HIGH");
+        row("chart 700 nan", 2, "", "frequency \"nan\" is out of range");
+        row("chart 700 1000 --mark 1200", 2, "", "mark \"1200\" lies outside the chart's window");
+        row("chart 700 1000 --tech XYZ", 2, "", "XYZ");
+        row("freq LTE:1 300 --mark 5", 2, "", "freq does not take --mark");
+        row("chart 0.1 0.5", 1, "", "no band has a record between 0.1 and 0.5 MHz");
     }
 
     void answers()
@@ -214,7 +220,8 @@ private slots:
         const QList<std::pair<const char *, const char *>> bands{
             {"NR:n1", "FDD"},    {"NR:n34", "TDD"},   {"NR:n41", "TDD"},     {"NR:n75", "SDL"},
             {"NR:n78", "TDD"},   {"NR:n80", "SUL"},   {"TDD:40", "TDD"},     {"TDS:0", "TDD"},
-            {"WIMAX:r1", "TDD"}, {"WIMAX:r6", "FDD"}, {"FDD:global", "FDD"}, {"GSM:850", "FDD"}};
+            {"WIMAX:r1", "TDD"}, {"WIMAX:r6", "FDD"}, {"FDD:global", "FDD"}, {"GSM:850", "FDD"},
+            {"NR:n257", "TDD"},  {"LTE:29", "SDL"}};
         QStringList lines, expected, duplex;
         for (const auto &band : bands) {
             lines << QLatin1String("band ") + QLatin1String(band.first);
