@@ -4,6 +4,7 @@
 #include "bandplan/channelsearch.h"
 #include "query/bandqueries.h"
 #include "store/diagnostics.h"
+#include "store/namelookup.h"
 #include "store/recordrules.h"
 #include "store/standardtext.h"
 #include "store/technologies.h"
@@ -106,7 +107,7 @@ int offsetChUpDownIn(int t, const ChBand &b, const QString &bandText, int channe
 int ChBandStore::GetChNumFromFreq(QString tech, QString band, int link, double freqMHz,
                                   int preferred) const
 {
-    return chNumFromFreqIn(BandOf(tech, band), link, freqMHz, preferred);
+    return chNumFromFreqIn(bandNamed(*this, tech, band), link, freqMHz, preferred);
 }
 
 int ChBandStore::GetChNumFromFreq(QString standard, int link, double freqMHz, int preferred) const
@@ -124,8 +125,8 @@ int ChBandStore::GetChNumFromFreq(QString standard, QString direction, double fr
 
 int ChBandStore::GetOffsetChUpDown(QString tech, QString band, int channel, int /*link*/) const
 {
-    const int t = LookupTechSlot(tech);
-    return offsetChUpDownIn(t, Technologies[t].Bands[LookupBandSlot(t, band)], band, channel);
+    const int t = techSlotNamed(*this, tech);
+    return offsetChUpDownIn(t, Technologies[t].Bands[bandSlotNamed(*this, t, band)], band, channel);
 }
 
 int ChBandStore::GetOffsetChUpDown(QString standard, int link, int channel) const
