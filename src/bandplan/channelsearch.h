@@ -12,13 +12,69 @@
 
 #include <QtCore/QtGlobal>
 
-// The formula's traits when the record's frequencies are non-decreasing from
-// its first to its last channel; null otherwise.
-const FormulaTraits *monotonicTraits(const stSubBand &record);
+#include <cmath>
+#include <limits>
 
-// Where the formula puts freqMHz, clamped to the record's channels: a
-// starting point for a search, never an answer by itself.
-qint64 estimateChannel(const FormulaTraits &traits, const stSubBand &record, double freqMHz);
+// The formula's traits when the record's frequencies are non-decreasing from
+// its first to its last channel; null otherwise. Monotonic takes a known
+// formula (positive step, product rounded before a rounded addition), a
+// finite base, and an integer part that does not wrap anywhere in the
+// record's range.
+inline const FormulaTraits *monotonicTraits(const stSubBand &r)
+{
+    const FormulaTraits *traits = formulaTraits(r.FreqFunc);
+    if (!traits || !std::isfinite(r.BaseFreq))
+        return nullptr;
+    const qint64 start = r.StartChannelNo;
+    const qint64 stop = r.StopChannelNo;
+    qint64 low = 0;
+    qint64 high = 0;
+    switch (traits->kind) {
+    case FormulaKind::Offset:
+        low = start - traits->offset;
+        high = stop - traits->offset;
+        break;
+    case FormulaKind::Reference:
+        high = stop - start;
+        break;
+    case FormulaKind::Times5:
+        low = 5 * start;
+        high = 5 * stop;
+        break;
+    }
+    const bool fits =
+        low >= std::numeric_limits<qint32>::min() && high <= std::numeric_limits<qint32>::max();
+    return fits ? traits : nullptr;
+}
+
+// Where the formula puts freqMHz, rounded to the nearest channel and clamped
+// to the record's channels: a starting point for a search, never an answer by
+// itself.
+inline qint64 estimateChannel(const FormulaTraits &traits, const stSubBand &r, double freqMHz)
+{
+    const double origin = traits.kind == FormulaKind::Offset      ? traits.offset
+                          : traits.kind == FormulaKind::Reference ? r.StartChannelNo
+                                                                  : 0.0;
+    const double estimate = origin + (freqMHz - r.BaseFreq) * traits.inverseStep;
+    if (!(estimate >= r.StartChannelNo)) // also NaN
+        return r.StartChannelNo;
+    if (!(estimate <= r.StopChannelNo))
+        return r.StopChannelNo;
+    qint64 channel = static_cast<qint64>(estimate); // towards zero
+    if (estimate - channel >= 0.5)
+        ++channel;
+    else if (channel - estimate > 0.5)
+        --channel;
+    return channel;
+}
+
+// True when the frequencies of any two of the record's channels differ by
+// more than two double epsilons (traits from monotonicTraits): then at most
+// one channel lies within an epsilon of any frequency.
+inline bool channelsSpacedApart(const FormulaTraits &traits, const stSubBand &record)
+{
+    return record.BaseFreq < traits.spacedBaseLimit && -record.BaseFreq < traits.spacedBaseLimit;
+}
 
 inline double freqAt(const stSubBand &record, qint64 channel)
 {

@@ -5,10 +5,8 @@
 #include "bandplan/formulatraits.h"
 #include "store/wrapping.h"
 
-#include <algorithm>
-#include <functional>
+#include <cstring>
 #include <iterator>
-#include <vector>
 
 // Each formula takes the difference in 32-bit two's complement (channels far
 // outside a band wrap instead of overflowing), converts it to double,
@@ -47,27 +45,61 @@ SAISKUKO_FORMULAS(DEFINE_OFFSET, DEFINE_REF, DEFINE_TIMES5)
 namespace {
 
 #define TRAITS_OFFSET(stem, offset, step)                                                          \
-    {&ChBandStore::chstdGet##stem, FormulaKind::Offset, offset, step},
-#define TRAITS_REF(stem, step) {&ChBandStore::chstdGet##stem, FormulaKind::Reference, 0, step},
-#define TRAITS_TIMES5(stem) {&ChBandStore::chstdGet##stem, FormulaKind::Times5, 0, 5.0},
+    makeFormulaTraits(&ChBandStore::chstdGet##stem, FormulaKind::Offset, offset, step),
+#define TRAITS_REF(stem, step)                                                                     \
+    makeFormulaTraits(&ChBandStore::chstdGet##stem, FormulaKind::Reference, 0, step),
+#define TRAITS_TIMES5(stem)                                                                        \
+    makeFormulaTraits(&ChBandStore::chstdGet##stem, FormulaKind::Times5, 0, 5.0),
 
 const FormulaTraits kTraits[] = {SAISKUKO_FORMULAS(TRAITS_OFFSET, TRAITS_REF, TRAITS_TIMES5)};
 
 } // namespace
 
+namespace {
+
+// The traits by the formula's address, in an open-addressing table a quarter
+// full: a search asks on every query, so one hash and usually one comparison.
+class TraitsByAddress
+{
+public:
+    TraitsByAddress()
+    {
+        for (const FormulaTraits &traits : kTraits) {
+            quint32 i = slotOf(traits.func);
+            while (m_slots[i])
+                i = (i + 1) % kSlots;
+            m_slots[i] = &traits;
+        }
+    }
+
+    const FormulaTraits *find(ChFreqFunc func) const
+    {
+        for (quint32 i = slotOf(func);; i = (i + 1) % kSlots) {
+            if (!m_slots[i] || m_slots[i]->func == func)
+                return m_slots[i];
+        }
+    }
+
+private:
+    static constexpr quint32 kSlots = 512;
+    static_assert(kSlots >= 4 * std::size(kTraits), "the table must stay mostly empty");
+
+    static quint32 slotOf(ChFreqFunc func)
+    {
+        static_assert(sizeof func == sizeof(quintptr), "a formula's address must fit an integer");
+        quintptr address;
+        std::memcpy(&address, &func, sizeof address);
+        const quint64 mixed = quint64(address) * 0x9E3779B97F4A7C15ull;
+        return quint32(mixed >> 32) % kSlots;
+    }
+
+    const FormulaTraits *m_slots[kSlots] = {};
+};
+
+} // namespace
+
 const FormulaTraits *formulaTraits(ChFreqFunc func)
 {
-    // Sorted by address once, so that every search can ask cheaply.
-    static const std::vector<FormulaTraits> byAddress = [] {
-        std::vector<FormulaTraits> sorted(std::begin(kTraits), std::end(kTraits));
-        std::sort(sorted.begin(), sorted.end(), [](const FormulaTraits &a, const FormulaTraits &b) {
-            return std::less<ChFreqFunc>()(a.func, b.func);
-        });
-        return sorted;
-    }();
-    const auto it = std::lower_bound(byAddress.begin(), byAddress.end(), func,
-                                     [](const FormulaTraits &traits, ChFreqFunc f) {
-                                         return std::less<ChFreqFunc>()(traits.func, f);
-                                     });
-    return (it != byAddress.end() && it->func == func) ? &*it : nullptr;
+    static const TraitsByAddress byAddress;
+    return byAddress.find(func);
 }

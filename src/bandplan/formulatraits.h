@@ -17,7 +17,21 @@ struct FormulaTraits
     FormulaKind kind;
     int offset;  // for FormulaKind::Offset
     double step; // MHz per channel
+    double inverseStep;
+    // Below this magnitude of the base frequency, the formula's consecutive
+    // channels (over any range where it does not wrap) lie more than two
+    // double epsilons apart, rounding included: the step, less the rounding
+    // of a product of at most 2^31 steps and of the sum, with a margin of 4.
+    double spacedBaseLimit;
 };
+
+constexpr FormulaTraits makeFormulaTraits(ChFreqFunc func, FormulaKind kind, int offset,
+                                          double step)
+{
+    constexpr double kTwoPow50 = 1125899906842624.0;
+    constexpr double kTwoPow33 = 8589934592.0;
+    return {func, kind, offset, step, 1.0 / step, step * kTwoPow50 - step * kTwoPow33};
+}
 
 // The traits of one of the library's own formulas; null for any other
 // function a caller registered.

@@ -49,6 +49,15 @@ void collectExactMatches(const stSubBand &r, double freqMHz, ExactMatches *found
     qint64 channel = r.StartChannelNo;
     const FormulaTraits *traits = monotonicTraits(r);
     const bool fast = traits && std::isfinite(freqMHz);
+    if (fast && channel <= stop && channelsSpacedApart(*traits, r)) {
+        // A raster frequency is its nearest channel's, and then no other
+        // channel of the record can match.
+        const qint64 nearest = estimateChannel(*traits, r, freqMHz);
+        if (std::abs(freqAt(r, nearest) - freqMHz) < kTolerance) {
+            found->add(static_cast<int>(nearest));
+            return;
+        }
+    }
     if (fast) {
         // Differences grow with the channel: the matches form one run that
         // starts at the first difference above -epsilon.
@@ -69,7 +78,8 @@ void collectExactMatches(const stSubBand &r, double freqMHz, ExactMatches *found
 int chNumFromFreqIn(const ChBand &b, int link, double freqMHz, int preferred)
 {
     ExactMatches found;
-    for (int i = 0; i < recordCount(b); ++i) {
+    const int n = recordCount(b);
+    for (int i = 0; i < n; ++i) {
         const stSubBand &r = b.SubBands[i];
         if (servesLink(r, link) && r.StartFreq <= freqMHz && freqMHz <= r.StopFreq)
             collectExactMatches(r, freqMHz, &found);

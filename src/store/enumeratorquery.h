@@ -8,16 +8,14 @@
 #include "store/bandnamefacts.h"
 
 // Splits a code into technology and band numbers. The remainder follows the
-// sign of the code, so negative codes never name a band.
+// sign of the code, so negative codes never name a band. The band is the
+// remainder of the code by 100 x tech, which for tech 0 is the code itself
+// and otherwise is always code - 100 x tech (the remainder by 100): no
+// division needed.
 inline void splitCode(int code, int *tech, int *band)
 {
-    if (code == 0) {
-        *tech = 0;
-        *band = 0;
-        return;
-    }
     *tech = code / 100;
-    *band = (*tech == 0) ? code : code % (100 * *tech);
+    *band = code - 100 * *tech;
 }
 
 template <typename Result, typename Query>
