@@ -47,25 +47,35 @@ inline const FormulaTraits *monotonicTraits(const stSubBand &r)
     return fits ? traits : nullptr;
 }
 
+// The channel a count of channels above the start (half a channel ahead)
+// falls on, clamped to the record's channels. Counting from the start lets a
+// truncation round: the conversion back to double that a rounding towards
+// the nearest would need lies on the path of every conversion query.
+inline qint64 roundedChannel(qint32 start, qint32 stop, double aboveStart)
+{
+    if (!(aboveStart >= 0.5)) // also NaN
+        return start;
+    if (!(aboveStart <= double(stop) - start + 0.5))
+        return stop;
+    return start + static_cast<qint64>(aboveStart);
+}
+
+// The channel from which the formula counts its steps.
+inline double channelOrigin(const FormulaTraits &traits, const stSubBand &r)
+{
+    return traits.kind == FormulaKind::Offset      ? traits.offset
+           : traits.kind == FormulaKind::Reference ? r.StartChannelNo
+                                                   : 0.0;
+}
+
 // Where the formula puts freqMHz, rounded to the nearest channel and clamped
 // to the record's channels: a starting point for a search, never an answer by
 // itself.
 inline qint64 estimateChannel(const FormulaTraits &traits, const stSubBand &r, double freqMHz)
 {
-    const double origin = traits.kind == FormulaKind::Offset      ? traits.offset
-                          : traits.kind == FormulaKind::Reference ? r.StartChannelNo
-                                                                  : 0.0;
-    const double estimate = origin + (freqMHz - r.BaseFreq) * traits.inverseStep;
-    if (!(estimate >= r.StartChannelNo)) // also NaN
-        return r.StartChannelNo;
-    if (!(estimate <= r.StopChannelNo))
-        return r.StopChannelNo;
-    qint64 channel = static_cast<qint64>(estimate); // towards zero
-    if (estimate - channel >= 0.5)
-        ++channel;
-    else if (channel - estimate > 0.5)
-        --channel;
-    return channel;
+    const double originAboveStart = channelOrigin(traits, r) - r.StartChannelNo + 0.5;
+    return roundedChannel(r.StartChannelNo, r.StopChannelNo,
+                          (freqMHz - r.BaseFreq) * traits.inverseStep + originAboveStart);
 }
 
 // True when the frequencies of any two of the record's channels differ by
@@ -75,6 +85,48 @@ inline bool channelsSpacedApart(const FormulaTraits &traits, const stSubBand &re
 {
     return record.BaseFreq < traits.spacedBaseLimit && -record.BaseFreq < traits.spacedBaseLimit;
 }
+
+// What a search for one frequency needs to know of a record before it
+// starts, and the fields it was worked out from.
+struct RecordSearch
+{
+    ChFreqFunc func = nullptr;
+    double base = 0.0;
+    qint32 start = 0;
+    qint32 stop = -1;
+    // The record holds channels, grows monotonically and its channels lie
+    // spaced apart: a frequency can match its nearest channel alone.
+    bool spaced = false;
+    double inverseStep = 0.0;
+    double originAboveStart = 0.0;
+
+    static RecordSearch of(const stSubBand &r)
+    {
+        RecordSearch facts;
+        facts.func = r.FreqFunc;
+        facts.base = r.BaseFreq;
+        facts.start = r.StartChannelNo;
+        facts.stop = r.StopChannelNo;
+        const FormulaTraits *traits = monotonicTraits(r);
+        if (traits && r.StartChannelNo <= r.StopChannelNo && channelsSpacedApart(*traits, r)) {
+            facts.spaced = true;
+            facts.inverseStep = traits->inverseStep;
+            facts.originAboveStart = channelOrigin(*traits, r) - r.StartChannelNo + 0.5;
+        }
+        return facts;
+    }
+    // False once a field the facts depend on has changed.
+    bool describes(const stSubBand &r) const
+    {
+        return r.FreqFunc == func && r.BaseFreq == base && r.StartChannelNo == start
+               && r.StopChannelNo == stop;
+    }
+    // estimateChannel, for a spaced record.
+    qint64 nearestChannel(double freqMHz) const
+    {
+        return roundedChannel(start, stop, (freqMHz - base) * inverseStep + originAboveStart);
+    }
+};
 
 inline double freqAt(const stSubBand &record, qint64 channel)
 {

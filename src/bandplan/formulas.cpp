@@ -5,7 +5,6 @@
 #include "bandplan/formulatraits.h"
 #include "store/wrapping.h"
 
-#include <cstring>
 #include <iterator>
 
 // Each formula takes the difference in 32-bit two's complement (channels far
@@ -55,51 +54,13 @@ const FormulaTraits kTraits[] = {SAISKUKO_FORMULAS(TRAITS_OFFSET, TRAITS_REF, TR
 
 } // namespace
 
-namespace {
-
-// The traits by the formula's address, in an open-addressing table a quarter
-// full: a search asks on every query, so one hash and usually one comparison.
-class TraitsByAddress
+TraitsByAddress::TraitsByAddress()
 {
-public:
-    TraitsByAddress()
-    {
-        for (const FormulaTraits &traits : kTraits) {
-            quint32 i = slotOf(traits.func);
-            while (m_slots[i])
-                i = (i + 1) % kSlots;
-            m_slots[i] = &traits;
-        }
-    }
-
-    const FormulaTraits *find(ChFreqFunc func) const
-    {
-        for (quint32 i = slotOf(func);; i = (i + 1) % kSlots) {
-            if (!m_slots[i] || m_slots[i]->func == func)
-                return m_slots[i];
-        }
-    }
-
-private:
-    static constexpr quint32 kSlots = 512;
     static_assert(kSlots >= 4 * std::size(kTraits), "the table must stay mostly empty");
-
-    static quint32 slotOf(ChFreqFunc func)
-    {
-        static_assert(sizeof func == sizeof(quintptr), "a formula's address must fit an integer");
-        quintptr address;
-        std::memcpy(&address, &func, sizeof address);
-        const quint64 mixed = quint64(address) * 0x9E3779B97F4A7C15ull;
-        return quint32(mixed >> 32) % kSlots;
+    for (const FormulaTraits &traits : kTraits) {
+        quint32 i = slotOf(traits.func);
+        while (m_slots[i])
+            i = (i + 1) % kSlots;
+        m_slots[i] = &traits;
     }
-
-    const FormulaTraits *m_slots[kSlots] = {};
-};
-
-} // namespace
-
-const FormulaTraits *formulaTraits(ChFreqFunc func)
-{
-    static const TraitsByAddress byAddress;
-    return byAddress.find(func);
 }

@@ -43,21 +43,22 @@ struct ExactMatches
 
 // Appends the record's channels whose frequency lies within the double
 // epsilon (as an absolute number of MHz) of freqMHz.
-void collectExactMatches(const stSubBand &r, double freqMHz, ExactMatches *found)
+void collectExactMatches(const stSubBand &r, const RecordSearch &facts, double freqMHz,
+                         ExactMatches *found)
 {
-    const qint64 stop = r.StopChannelNo;
-    qint64 channel = r.StartChannelNo;
-    const FormulaTraits *traits = monotonicTraits(r);
-    const bool fast = traits && std::isfinite(freqMHz);
-    if (fast && channel <= stop && channelsSpacedApart(*traits, r)) {
+    if (facts.spaced && std::isfinite(freqMHz)) {
         // A raster frequency is its nearest channel's, and then no other
         // channel of the record can match.
-        const qint64 nearest = estimateChannel(*traits, r, freqMHz);
+        const qint64 nearest = facts.nearestChannel(freqMHz);
         if (std::abs(freqAt(r, nearest) - freqMHz) < kTolerance) {
             found->add(static_cast<int>(nearest));
             return;
         }
     }
+    const qint64 stop = r.StopChannelNo;
+    qint64 channel = r.StartChannelNo;
+    const FormulaTraits *traits = monotonicTraits(r);
+    const bool fast = traits && std::isfinite(freqMHz);
     if (fast) {
         // Differences grow with the channel: the matches form one run that
         // starts at the first difference above -epsilon.
@@ -75,14 +76,14 @@ void collectExactMatches(const stSubBand &r, double freqMHz, ExactMatches *found
 
 } // namespace
 
-int chNumFromFreqIn(const ChBand &b, int link, double freqMHz, int preferred)
+int chNumFromFreqIn(const ChBand &b, KnownRecords known, int link, double freqMHz, int preferred)
 {
     ExactMatches found;
     const int n = recordCount(b);
     for (int i = 0; i < n; ++i) {
         const stSubBand &r = b.SubBands[i];
         if (servesLink(r, link) && r.StartFreq <= freqMHz && freqMHz <= r.StopFreq)
-            collectExactMatches(r, freqMHz, &found);
+            collectExactMatches(r, known.of(i, r), freqMHz, &found);
     }
     if (found.count > 0)
         return found.contains(preferred) ? preferred : found.channels[0];
@@ -117,7 +118,10 @@ int offsetChUpDownIn(int t, const ChBand &b, const QString &bandText, int channe
 int ChBandStore::GetChNumFromFreq(QString tech, QString band, int link, double freqMHz,
                                   int preferred) const
 {
-    return chNumFromFreqIn(bandNamed(*this, tech, band), link, freqMHz, preferred);
+    const int t = techSlotNamed(*this, tech);
+    const int b = bandSlotNamed(*this, t, band);
+    return chNumFromFreqIn(Technologies[t].Bands[b], SearchIndex::find(*this, t, b), link, freqMHz,
+                           preferred);
 }
 
 int ChBandStore::GetChNumFromFreq(QString standard, int link, double freqMHz, int preferred) const

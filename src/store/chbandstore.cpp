@@ -3,6 +3,7 @@
 
 #include "store/diagnostics.h"
 #include "store/namelookup.h"
+#include "store/searchindex.h"
 #include "store/technologies.h"
 
 namespace {
@@ -25,6 +26,7 @@ ChBandStore::ChBandStore(QObject *parent) : QObject(parent)
     announceVersion();
 
     NameIndex::createFor(this);
+    SearchIndex::createFor(this);
     NameIndex *const index = NameIndex::of(this);
     for (int slot = 0; slot < kNumTechSlots; ++slot) {
         TechIndexMap.insert(techName(slot), slot);
@@ -113,5 +115,7 @@ void ChBandStore::SetBandInfo(QString tech, QString band, int startChannelNo, in
     record.Link = link;
     record.FreqFunc = func;
     record.UplinkOnly = uplinkOnly;
+    if (SearchIndex *searches = SearchIndex::of(this))
+        searches->set(t, b, target.NumSubBand, record);
     ++target.NumSubBand;
 }

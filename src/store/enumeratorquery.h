@@ -18,8 +18,9 @@ inline void splitCode(int code, int *tech, int *band)
     *band = code - 100 * *tech;
 }
 
+// Out of line, so that the quick path of AnswerForBand needs no stack frame.
 template <typename Result, typename Query>
-Result ChBandStore::AnswerForEnumerator(int code, Result failure, Query query) const
+Q_NEVER_INLINE Result ChBandStore::AnswerForEnumerator(int code, Result failure, Query query) const
 {
     QString tech, band;
     return NamesOfEnumerator(code, &tech, &band) ? query(tech, band) : failure;
