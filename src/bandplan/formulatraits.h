@@ -28,7 +28,7 @@ struct FormulaTraits
 };
 
 constexpr FormulaTraits makeFormulaTraits(ChFreqFunc func, FormulaKind kind, int offset,
-                                          double step)
+                                          double step) noexcept
 {
     constexpr double kTwoPow50 = 1125899906842624.0;
     constexpr double kTwoPow33 = 8589934592.0;
