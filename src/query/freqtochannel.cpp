@@ -79,11 +79,12 @@ void collectExactMatches(const stSubBand &r, const RecordSearch &facts, double f
 int chNumFromFreqIn(const ChBand &b, KnownRecords known, int link, double freqMHz, int preferred)
 {
     ExactMatches found;
+    RecordSearch scratch;
     const int n = recordCount(b);
     for (int i = 0; i < n; ++i) {
         const stSubBand &r = b.SubBands[i];
         if (servesLink(r, link) && r.StartFreq <= freqMHz && freqMHz <= r.StopFreq)
-            collectExactMatches(r, known.of(i, r), freqMHz, &found);
+            collectExactMatches(r, known.of(i, r, &scratch), freqMHz, &found);
     }
     if (found.count > 0)
         return found.contains(preferred) ? preferred : found.channels[0];

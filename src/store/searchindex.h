@@ -18,10 +18,13 @@ struct KnownRecords
     const RecordSearch *records = nullptr;
     int count = 0;
 
-    // The facts of record i.
-    RecordSearch of(int i, const stSubBand &r) const
+    // The facts of record i, worked out into scratch when none are kept.
+    const RecordSearch &of(int i, const stSubBand &r, RecordSearch *scratch) const
     {
-        return i < count && records[i].describes(r) ? records[i] : RecordSearch::of(r);
+        if (i < count && records[i].describes(r))
+            return records[i];
+        *scratch = RecordSearch::of(r);
+        return *scratch;
     }
 };
 
