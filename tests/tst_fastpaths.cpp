@@ -1,6 +1,8 @@
-// The library finds channels by binary search; these tests hold it to the
-// literal walk over every channel, for every record of the band plan and for
-// records of shapes the plan lacks.
+// The quick paths held to their literal definitions: channel searches to the
+// walk over every channel, for every record of the band plan and for records
+// of shapes the plan lacks; enumerator forms to the name forms their text
+// gives; G_CHSTD's name index to a private store's maps, also after callers
+// register records into G_CHSTD itself.
 #include "testsupport.h"
 
 #include <climits>
@@ -110,6 +112,60 @@ double plateau(int ch, double base, int)
     return base + (ch / 4) * 0.2;
 }
 
+QString byCode(const Place &p)
+{
+    Answers a;
+    askByCode(p, a);
+    return text(a);
+}
+QString byNames(const Place &p)
+{
+    Answers a;
+    askByNames(p, a);
+    return text(a);
+}
+
+// Every record at its first, middle and last channel on both links: by
+// enumerator as by the names its text splits into (or the failure values and
+// warnings of a code without one), and by names on G_CHSTD as on `own`.
+void compareQuickForms(const ChBandStore &own)
+{
+    forEachBand(G_CHSTD, [&](const ChTechnology &tech, const ChBand &band, int code) {
+        const QStringList parts = G_CHSTD.GetEnumulator(code).split(QLatin1String(" - "));
+        const QString failed =
+            nums({-1, -1, -1, -1, -1, -1, true, -1, -1, -1, false, -1}) + QLatin1String(" || ")
+            + warned(QStringLiteral("Channel Standard Enum is invalid.( %1 )").arg(code), 12)
+                  .join(QLatin1String(" | "));
+        for (int i = 0; i < band.NumSubBand && !QTest::currentTestFailed(); ++i) {
+            const stSubBand &r = band.SubBands[i];
+            const qint64 first = r.StartChannelNo, last = r.StopChannelNo;
+            for (const qint64 ch : {first, first + (last - first) / 2, last}) {
+                for (const int link : {0, 1}) {
+                    const Place p{G_CHSTD, tech.TechName, band.BandName,         code,
+                                  link,    int(ch),       literal::freqAt(r, ch)};
+                    const Place mine{own, p.tech, p.band, code, link, p.ch, p.mhz};
+                    const Place split{G_CHSTD, parts.value(0), parts.value(1), code,
+                                      link,    p.ch,           p.mhz};
+                    QCOMPARE(logged([&] { return byCode(p); }),
+                             parts.size() < 2 ? failed : logged([&] { return byNames(split); }));
+                    QCOMPARE(logged([&] { return answersByNames(p); }),
+                             logged([&] { return answersByNames(mine); }));
+                }
+            }
+        }
+    });
+    // Unknown and near-miss names select slot 0 alike.
+    for (const char *tech : {"LTE-FDD", "lte-fdd", "", "Foo", "CDMA"}) {
+        for (const char *band : {"Band 1 (2100)", "Band 1 (2100) ", "", "A - B", "Band Global"})
+            QCOMPARE(logged([&] {
+                         return answersByNames({G_CHSTD, str(tech), str(band), 0, 0, 300, 2140.0});
+                     }),
+                     logged([&] {
+                         return answersByNames({own, str(tech), str(band), 0, 0, 300, 2140.0});
+                     }));
+    }
+}
+
 } // namespace
 
 class FastPathsTest : public QObject
@@ -175,6 +231,29 @@ private slots:
                 }
             }
         }
+    }
+
+    void quickFormsAnswerAsTheLiteralOnes() { compareQuickForms(*makeStore()); }
+
+    // Last, as it changes G_CHSTD: a new band, a band name holding " - ", an
+    // empty band name, and a record under an unknown technology name (which
+    // renames slot 0), into both stores.
+    void afterCallersRegisterRecords()
+    {
+        const auto own = makeStore();
+        for (ChBandStore *s : {&G_CHSTD, own.get()}) {
+            LogCapture quiet;
+            s->SetBandInfo(str("LTE-FDD"), str("Band 99 (X)"), 100, 200, 700.0, 710.0, 700.0, 1, 0,
+                           &ChBandStore::chstdGetLTEBand1Dn, false);
+            s->SetBandInfo(str("GSM"), str("A - B"), 1, 50, 400.0, 410.0, 400.0, 1, 1,
+                           &ChBandStore::chstdGetGSM_900, false);
+            s->SetBandInfo(str("WCDMA"), QString(), 10, 20, 1.0, 1.0, 1.0, 1, 0,
+                           &ChBandStore::chstdGetWCDMA_Common, true);
+            s->SetBandInfo(str("Foo"), str("Band 0 (800)"), 2000, 2010, 800.0, 810.0, 800.0, 1, 0,
+                           &ChBandStore::chstdGetCDMA_Band0_1, false);
+        }
+        QCOMPARE(G_CHSTD.Technologies[0].TechName, str("Foo"));
+        compareQuickForms(*own);
     }
 };
 
