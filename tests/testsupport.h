@@ -67,12 +67,9 @@ inline QStringList warned(const QString &text, int times = 1)
     return out;
 }
 
-inline QStringList printed(std::initializer_list<const char *> values)
+inline QStringList printed(const char *value)
 {
-    QString out;
-    for (const char *value : values)
-        out += QStringLiteral("GetChNumFromFreq Not supported value : %1\n").arg(str(value));
-    return {QLatin1String("out: ") + out};
+    return {QStringLiteral("out: GetChNumFromFreq Not supported value : %1\n").arg(str(value))};
 }
 
 // The debug line of every well-formed GetAvailableChannels call.
@@ -88,6 +85,14 @@ void forEachBand(const ChBandStore &store, Visit visit)
     for (int t = 0; t < ChBandStore::MaxTechnologies; ++t)
         for (int b = 0; b < store.Technologies[t].NumBand; ++b)
             visit(store.Technologies[t], store.Technologies[t].Bands[b], 100 * t + b);
+}
+
+// A band table's four columns, one line each.
+QString table(const stCHList &t)
+{
+    return QStringList{t.techList.join(QLatin1Char('|')), t.bandList.join(QLatin1Char('|')),
+                       t.chRangeList.join(QLatin1Char('|')), t.freqRangeList.join(QLatin1Char('|'))}
+        .join(QLatin1Char('\n'));
 }
 
 // A place in a band to ask about: the band by names and by enumerator, a
@@ -164,12 +169,12 @@ inline QString answersByNames(const Place &p)
         .join(QLatin1String(" | "));
 }
 
-// What a call answers, then everything it logged.
+// What a query answers about a place, then everything it logged.
 template <typename Ask>
-QString logged(Ask ask)
+QString logged(Ask ask, const Place &p)
 {
     LogCapture log;
-    const QString answer = ask();
+    const QString answer = ask(p);
     return answer + QLatin1String(" || ") + log.take().join(QLatin1String(" | "));
 }
 
