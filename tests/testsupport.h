@@ -169,6 +169,14 @@ inline QString answersByNames(const Place &p)
         .join(QLatin1String(" | "));
 }
 
+template <void (*Ask)(const Place &, Answers &)>
+QString answered(const Place &p)
+{
+    Answers a;
+    Ask(p, a);
+    return text(a);
+}
+
 // What a query answers about a place, then everything it logged.
 template <typename Ask>
 QString logged(Ask ask, const Place &p)

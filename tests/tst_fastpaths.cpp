@@ -110,19 +110,6 @@ double plateau(int ch, double base, int)
     return base + (ch / 4) * 0.2;
 }
 
-QString byCode(const Place &p)
-{
-    Answers a;
-    askByCode(p, a);
-    return text(a);
-}
-QString byNames(const Place &p)
-{
-    Answers a;
-    askByNames(p, a);
-    return text(a);
-}
-
 // Every record of G_CHSTD: its searches as the walk, and at its first, middle
 // and last channel on both links, by enumerator as by the names its text
 // splits into and by names as on `own` (whose maps have no hash index).
@@ -141,8 +128,9 @@ void compareEveryRecord(const ChBandStore &own)
                     const Place p{G_CHSTD, tech.TechName, band.BandName,         code,
                                   link,    int(ch),       literal::freqAt(r, ch)};
                     if (parts.size() > 1)
-                        QCOMPARE(logged(byCode, p), logged(byNames, {p.s, parts[0], parts[1], code,
-                                                                     link, p.ch, p.mhz}));
+                        QCOMPARE(logged(answered<askByCode>, p),
+                                 logged(answered<askByNames>,
+                                        {p.s, parts[0], parts[1], code, link, p.ch, p.mhz}));
                     QCOMPARE(
                         logged(answersByNames, p),
                         logged(answersByNames, {own, p.tech, p.band, code, link, p.ch, p.mhz}));
