@@ -247,6 +247,7 @@ private slots:
             return QString::number(s.GetStopChannelNo_InSample(t, b, a.channel, a.link));
         });
         row("in no record: record 0", {0, "GSM", "GSM 850", 1, 300}, "251");
+        row("first record holding it", {0, "WCDMA", "Band Global", 2, 9662}, "9888");
         row("second pair, down", {0, "CDMA", "Band 0 (800)", 0, 1000}, "1023");
         row("channel and link swapped", {0, "CDMA", "Band 0 (800)", 1000, 1}, "799");
         row("other link's record", {0, "LTE-FDD", "Band 3 (1800)", 1, 1300}, "1949");
