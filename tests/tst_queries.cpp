@@ -94,6 +94,7 @@ private slots:
             row(*text ? text : "empty", {false, text}, qPrintable(nums({code, code >= 0})),
                 warned(invalid(what, value), calls));
         };
+        names("CDMA - Band 0 (800)", 0);               // code 0 is valid
         names("GSM - GSM 850 - x", 102);               // parts after the second are ignored
         names("LTE - x", -1, "Tech Name", str("LTE")); // the band is not looked at
         names("lte-fdd - Band 1 (2100)", -1, "Tech Name", str("lte-fdd"));
