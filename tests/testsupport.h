@@ -10,6 +10,7 @@
 #include "messagecapture.h"
 
 #include <QtCore/QStringList>
+#include <QtCore/QVarLengthArray>
 #include <QtTest/QtTest>
 
 #include <cstring>
@@ -66,12 +67,9 @@ inline QStringList warned(const QString &text, int times = 1)
     return out;
 }
 
-inline QStringList printed(std::initializer_list<const char *> values)
+inline QStringList printed(const char *value)
 {
-    QString out;
-    for (const char *value : values)
-        out += QStringLiteral("GetChNumFromFreq Not supported value : %1\n").arg(str(value));
-    return {QLatin1String("out: ") + out};
+    return {QStringLiteral("out: GetChNumFromFreq Not supported value : %1\n").arg(str(value))};
 }
 
 // The debug line of every well-formed GetAvailableChannels call.
@@ -87,6 +85,105 @@ void forEachBand(const ChBandStore &store, Visit visit)
     for (int t = 0; t < ChBandStore::MaxTechnologies; ++t)
         for (int b = 0; b < store.Technologies[t].NumBand; ++b)
             visit(store.Technologies[t], store.Technologies[t].Bands[b], 100 * t + b);
+}
+
+// A band table's four columns, one line each.
+QString table(const stCHList &t)
+{
+    return QStringList{t.techList.join(QLatin1Char('|')), t.bandList.join(QLatin1Char('|')),
+                       t.chRangeList.join(QLatin1Char('|')), t.freqRangeList.join(QLatin1Char('|'))}
+        .join(QLatin1Char('\n'));
+}
+
+// A place in a band to ask about: the band by names and by enumerator, a
+// link, a channel (also the preferred one) and a frequency.
+struct Place
+{
+    const ChBandStore &s;
+    QString tech, band;
+    int code, link, ch;
+    double mhz;
+};
+
+// Numeric answers gathered without touching the heap.
+using Answers = QVarLengthArray<double, 64>;
+
+inline QString text(const Answers &answers)
+{
+    QStringList out;
+    for (const double value : answers)
+        out << Num(value).text;
+    return out.join(QLatin1Char(' '));
+}
+
+// Every query with a numeric answer by enumerator, then the same by names in
+// the same order, then those only the names and the text forms offer.
+inline void askByCode(const Place &p, Answers &a)
+{
+    const ChBandStore &s = p.s;
+    const int c = p.code, l = p.link, ch = p.ch;
+    a << s.GetNumSubBand(c) << s.GetStartChannelNo(c, l) << s.GetStopChannelNo(c, l)
+      << s.GetOffsetChUpDown(c, l, ch) << s.GetChNumFromFreq(c, l, p.mhz, ch)
+      << s.GetDefaultIntBW(c) << s.IsUplinkOnly(c) << s.GetStartFreq(c) << s.GetStartFreq(c, l)
+      << s.GetStopFreq(c, l) << s.IsExistChannelNo(c, l, ch) << s.GetFreq(c, l, ch);
+}
+
+inline void askByNames(const Place &p, Answers &a)
+{
+    const ChBandStore &s = p.s;
+    const QString &t = p.tech, &b = p.band;
+    const int l = p.link, ch = p.ch;
+    a << s.GetNumSubBand(t, b) << s.GetStartChannelNo(t, b, l) << s.GetStopChannelNo(t, b, l)
+      << s.GetOffsetChUpDown(t, b, ch, l) << s.GetChNumFromFreq(t, b, l, p.mhz, ch)
+      << s.GetDefaultIntBW(t) << s.IsUplinkOnly(t, b) << s.GetStartFreq(t, b)
+      << s.GetStartFreq(t, b, l) << s.GetStopFreq(t, b, l) << s.IsExistChannelNo(t, b, l, ch)
+      << s.GetFreq(t, b, l, ch);
+}
+
+inline void askNamesOnly(const Place &p, Answers &a)
+{
+    const ChBandStore &s = p.s;
+    const QString &t = p.tech, &b = p.band;
+    const int l = p.link, ch = p.ch;
+    a << s.GetFreqNoLimit(t, b, l, ch) << s.GetStopChannelNo_InSample(t, b, ch, l)
+      << s.GetNumBand(t) << s.CheckChannelStandardIsLTETDD(b) << s.CheckChannelStandardIsTDS(b)
+      << s.CheckChannelStandardIsWiMax(b);
+}
+
+// Everything the lenient name and text forms answer about a place, texts included.
+inline QString answersByNames(const Place &p)
+{
+    const ChBandStore &s = p.s;
+    const QString text = p.tech + QLatin1String(" - ") + p.band;
+    const QString dir = p.link ? str("Reverse") : str("Forward");
+    Answers a;
+    askByNames(p, a);
+    askNamesOnly(p, a);
+    a << s.GetFreq(text, p.link, p.ch) << s.GetFreq(text, dir, p.ch)
+      << s.GetChNumFromFreq(text, p.link, p.mhz, p.ch) << s.GetChNumFromFreq(text, dir, p.mhz, -1)
+      << s.GetOffsetChUpDown(text, p.link, p.ch) << s.GetOffsetChUpDown(text, dir, p.ch);
+    return QStringList{::text(a), s.GetBandList(p.tech).join(QLatin1Char('/')),
+                       s.GetChNumRefString(p.tech, p.band, p.link),
+                       s.GetChNumRefString_List(p.tech, p.band, p.link),
+                       s.GetFreqRefString_List(p.tech, p.band, p.link)}
+        .join(QLatin1String(" | "));
+}
+
+template <void (*Ask)(const Place &, Answers &)>
+QString answered(const Place &p)
+{
+    Answers a;
+    Ask(p, a);
+    return text(a);
+}
+
+// What a query answers about a place, then everything it logged.
+template <typename Ask>
+QString logged(Ask ask, const Place &p)
+{
+    LogCapture log;
+    const QString answer = ask(p);
+    return answer + QLatin1String(" || ") + log.take().join(QLatin1String(" | "));
 }
 
 // A table row is a query, the text of its answers and everything it logged.

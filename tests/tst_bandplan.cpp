@@ -9,8 +9,9 @@
 namespace {
 
 // The store in slot order, every slot and record included (little-endian,
-// doubles by their bits), then its maps. A formula is written as its values
-// at channels 0 and 1 with reference 0 and at channel 0 with reference 1.
+// doubles by their bits), with each technology's default bandwidth, then its
+// maps. A formula is written as its values at channels 0 and 1 with reference
+// 0 and at channel 0 with reference 1.
 QByteArray serialize(const ChBandStore &store)
 {
     QByteArray bytes;
@@ -29,7 +30,7 @@ QByteArray serialize(const ChBandStore &store)
     };
     for (const ChTechnology &tech : store.Technologies) {
         text(tech.TechName);
-        out << qint32(tech.NumBand);
+        out << qint32(tech.NumBand) << store.GetDefaultIntBW(tech.TechName);
         map(tech.BandIndexMap);
         for (const ChBand &band : tech.Bands) {
             text(band.BandName);
@@ -70,7 +71,7 @@ private slots:
         quint64 hash = 0xcbf29ce484222325ULL;
         for (const char c : serialize(G_CHSTD))
             hash = (hash ^ quint8(c)) * 0x100000001b3ULL;
-        QCOMPARE(QString::number(hash, 16), QStringLiteral("39a52065d8e6e39c"));
+        QCOMPARE(QString::number(hash, 16), QStringLiteral("230eb143765d64fe"));
     }
 
     void banner()
