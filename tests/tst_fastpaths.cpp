@@ -149,6 +149,36 @@ void compareEveryRecord(const ChBandStore &own)
 
 } // namespace
 
+// Records a caller may register: a non-monotone formula, a formula the
+// library does not know, ranges whose arithmetic wraps, a plateau of equal
+// frequencies, an empty range, and one changed in place after registration
+// (its fields are public; G_CHSTD keeps facts of its records).
+const struct
+{
+    const char *band;
+    int first, last;
+    double base;
+    ChFreqFunc f;
+} kUnusualRecords[] = {
+    {"Zigzag", 0, 40, 100.0, &zigzag},
+    {"Plateau", 0, 40, 100.0, &plateau},
+    {"Wrapping", INT_MAX - 20, INT_MAX, 0.0, &ChBandStore::chstdGetLTEBand1Up},
+    {"Wrapping5", 429496700, 429496740, 0.0, &ChBandStore::chstdGetWIMAX_Common3},
+    {"Empty", 10, 5, 0.0, &ChBandStore::chstdGetGSM_900},
+    {"Huge base", 0, 40, 1e300, &ChBandStore::chstdGetGSM_900},
+    {"Changed", 0, 40, 100.0, &ChBandStore::chstdGetGSM_900}};
+
+void registerUnusualRecords(ChBandStore &store)
+{
+    for (const auto &r : kUnusualRecords)
+        store.SetBandInfo(QStringLiteral("GSM"), QLatin1String(r.band), r.first, r.last, -1e9, 1e9,
+                          r.base, 1, 1, r.f, false);
+    ChTechnology &gsm = store.Technologies[1];
+    stSubBand &changed = gsm.Bands[gsm.BandIndexMap.value(QStringLiteral("Changed"))].SubBands[0];
+    changed.BaseFreq = 1e300;
+    changed.StopFreq = 1e301;
+}
+
 class FastPathsTest : public QObject
 {
     Q_OBJECT
@@ -156,43 +186,20 @@ class FastPathsTest : public QObject
 private slots:
     void everyRecordAnswersAsTheLiteralForms() { compareEveryRecord(*makeStore()); }
 
-    // Records a caller registers itself: a non-monotone formula, a formula
-    // the library does not know, ranges whose arithmetic wraps, a plateau of
-    // equal frequencies and an empty range must all still answer as the walk;
-    // in G_CHSTD too, which keeps facts of its records, also after a record
-    // is changed in place to a plateau (its fields are public).
+    // The unusual records answer as the walk, in a private store and in G_CHSTD.
     void unusualRecordsMatchTheWalk()
     {
         const auto own = makeStore();
         const QString gsm = QStringLiteral("GSM");
-        const struct
-        {
-            const char *band;
-            int first, last;
-            double base;
-            ChFreqFunc f;
-        } records[] = {
-            {"Zigzag", 0, 40, 100.0, &zigzag},
-            {"Plateau", 0, 40, 100.0, &plateau},
-            {"Wrapping", INT_MAX - 20, INT_MAX, 0.0, &ChBandStore::chstdGetLTEBand1Up},
-            {"Wrapping5", 429496700, 429496740, 0.0, &ChBandStore::chstdGetWIMAX_Common3},
-            {"Empty", 10, 5, 0.0, &ChBandStore::chstdGetGSM_900},
-            {"Huge base", 0, 40, 1e300, &ChBandStore::chstdGetGSM_900},
-            {"Changed", 0, 40, 100.0, &ChBandStore::chstdGetGSM_900}};
         for (ChBandStore *store : {own.get(), &G_CHSTD}) {
-            for (const auto &r : records)
-                store->SetBandInfo(gsm, QLatin1String(r.band), r.first, r.last, -1e9, 1e9, r.base,
-                                   1, 1, r.f, false);
+            registerUnusualRecords(*store);
             QSet<QString> asked;
-            for (const auto &r : records) {
+            for (const auto &r : kUnusualRecords) {
                 const QString name = QLatin1String(r.band);
-                ChBand &band =
-                    store->Technologies[1].Bands[store->Technologies[1].BandIndexMap.value(name)];
-                stSubBand &record = band.SubBands[0];
-                if (name == QLatin1String("Changed")) {
-                    record.BaseFreq = 1e300;
-                    record.StopFreq = 1e301;
-                }
+                const stSubBand &record =
+                    store->Technologies[1]
+                        .Bands[store->Technologies[1].BandIndexMap.value(name)]
+                        .SubBands[0];
                 compareRecord(*store, gsm, name, record, asked);
                 for (int ch = 0; ch < 12; ++ch) { // along the first channels too
                     const double f = literal::freqAt(record, qint64(r.first) + ch);
@@ -217,6 +224,7 @@ private slots:
     void afterCallersRegisterRecords()
     {
         const auto own = makeStore();
+        registerUnusualRecords(*own); // as G_CHSTD has them
         for (ChBandStore *s : {&G_CHSTD, own.get()}) {
             LogCapture quiet;
             s->SetBandInfo(str("LTE-FDD"), str("Band 99 (X)"), 100, 200, 700.0, 710.0, 700.0, 1, 0,
