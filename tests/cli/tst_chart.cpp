@@ -7,14 +7,6 @@
 
 namespace {
 
-QStringList rowLabels(const ChartLayout &layout)
-{
-    QStringList labels;
-    for (const ChartRow &row : layout.rows)
-        labels << row.label;
-    return labels;
-}
-
 // Every text box of the chart: none may cover another.
 QList<ChartBox> textBoxes(const ChartLayout &layout)
 {
@@ -51,68 +43,53 @@ private slots:
     {
         QTest::addColumn<double>("low");
         QTest::addColumn<double>("high");
-        QTest::addColumn<QList<double>>("ticks");
-        QTest::newRow("5 MHz") << 3400.0 << 3405.0
-                               << QList<double>{3400, 3401, 3402, 3403, 3404, 3405};
-        QTest::newRow("odd edges") << 881.3 << 882.9 << QList<double>{881.4, 881.6, 881.8, 882,
-                                                                      882.2, 882.4, 882.6, 882.8};
-        QTest::newRow("300 MHz") << 700.0 << 1000.0
-                                 << QList<double>{700, 750, 800, 850, 900, 950, 1000};
-        QTest::newRow("6 GHz") << 0.0 << 6000.0
-                               << QList<double>{0, 1000, 2000, 3000, 4000, 5000, 6000};
-        QTest::newRow("100 GHz") << 0.0 << 100000.0
-                                 << QList<double>{0, 20000, 40000, 60000, 80000, 100000};
+        QTest::addColumn<QString>("ticks");
+        QTest::newRow("5 MHz") << 3400.0 << 3405.0 << "3400 3401 3402 3403 3404 3405";
+        QTest::newRow("odd edges")
+            << 881.3 << 882.9 << "881.4 881.6 881.8 882 882.2 882.4 882.6 882.8";
+        QTest::newRow("300 MHz") << 700.0 << 1000.0 << "700 750 800 850 900 950 1000";
+        QTest::newRow("6 GHz") << 0.0 << 6000.0 << "0 1000 2000 3000 4000 5000 6000";
+        QTest::newRow("100 GHz") << 0.0 << 100000.0 << "0 20000 40000 60000 80000 100000";
     }
     void ticks()
     {
         QFETCH(double, low);
         QFETCH(double, high);
-        QFETCH(QList<double>, ticks);
-        const QList<double> got = chartTicks(low, high);
-        QCOMPARE(got.size(), ticks.size());
-        for (int i = 0; i < got.size(); ++i)
-            QVERIFY2(qFuzzyCompare(got[i], ticks[i]), qPrintable(QString::number(got[i])));
+        QStringList got;
+        for (double tick : chartTicks(low, high))
+            got << QString::number(tick);
+        QTEST(got.join(QLatin1Char(' ')), "ticks");
     }
 
-    // Which bands, in which order and with which kinds of bar: grouped by
-    // technology in slot order, "Band Global" and placeholders left out, the
-    // two links of a time-division band drawn once.
+    // Which bands, in which order and with which kinds of bar (Uplink,
+    // Downlink, Time-division): grouped by technology in slot order, "Band
+    // Global" and placeholders left out, the two links of a TDD band drawn once.
     void rows_data()
     {
         QTest::addColumn<double>("low");
         QTest::addColumn<double>("high");
-        QTest::addColumn<QList<int>>("techs");
+        QTest::addColumn<int>("tech");
         QTest::addColumn<QString>("rows");
-        QTest::addColumn<QString>("kinds"); // per row: U, D, T per bar
         // P-GSM's uplink starts at 890: touching the window's edge is not in it.
-        QTest::newRow("GSM 880-890")
-            << 880.0 << 890.0 << QList<int>{SlotGsm}
-            << "GSM 850 [102]|E-GSM 900 [104]|R-GSM 900 [105]|R-GSM 900 (China) [106]"
-            << "D|U|U|U";
-        QTest::newRow("LTE-TDD 40")
-            << 2310.0 << 2390.0 << QList<int>{SlotLteTdd} << "Band 40 (2300) [308]"
-            << "T";
-        QTest::newRow("n78 and n77") << 3400.0 << 3405.0 << QList<int>{SlotNr}
-                                     << "Band n77 (TD 3700) [723]|Band n78 (TD 3500) [724]"
-                                     << "T|T";
+        QTest::newRow("GSM") << 880.0 << 890.0 << int(SlotGsm)
+                             << "GSM 850 [102] D|E-GSM 900 [104] U|R-GSM 900 [105] U|"
+                                "R-GSM 900 (China) [106] U";
+        QTest::newRow("LTE-TDD") << 2310.0 << 2390.0 << int(SlotLteTdd) << "Band 40 (2300) [308] T";
+        QTest::newRow("NR") << 3400.0 << 3405.0 << int(SlotNr)
+                            << "Band n77 (TD 3700) [723] T|Band n78 (TD 3500) [724] T";
     }
     void rows()
     {
         QFETCH(double, low);
         QFETCH(double, high);
-        QFETCH(QList<int>, techs);
-        QFETCH(QString, rows);
-        QFETCH(QString, kinds);
-        const ChartLayout layout = chart(low, high, techs);
-        QStringList gotKinds;
-        for (const ChartRow &row : layout.rows) {
-            QString k;
+        QFETCH(int, tech);
+        QStringList rows;
+        for (const ChartRow &row : chart(low, high, {tech}).rows) {
+            rows << row.label + QLatin1Char(' ');
             for (const ChartBar &bar : row.bars)
-                k += QLatin1Char("UDT"[int(bar.kind)]);
-            gotKinds << k;
+                rows.last() += QLatin1Char("UDT"[int(bar.kind)]);
         }
-        QCOMPARE(rowLabels(layout).join(QLatin1Char('|')), rows);
-        QCOMPARE(gotKinds.join(QLatin1Char('|')), kinds);
+        QTEST(rows.join(QLatin1Char('|')), "rows");
     }
 
     // The whole plan: every real record of every band but the global ones is
