@@ -3,6 +3,8 @@
 
 #include "output.h"
 
+#include <utility>
+
 #include <algorithm>
 
 ChBandStore &store()
@@ -30,11 +32,17 @@ const ChBand &BandRef::data() const
     return store().Technologies[tech].Bands[band];
 }
 
+Duplex BandRef::duplex() const
+{
+    return duplexOf(techName(), bandName());
+}
+
 QJsonObject BandRef::toJson() const
 {
     return QJsonObject{{QStringLiteral("code"), code()},
                        {QStringLiteral("technology"), techName()},
-                       {QStringLiteral("band"), bandName()}};
+                       {QStringLiteral("band"), bandName()},
+                       {QStringLiteral("duplex"), duplexName(duplex())}};
 }
 
 namespace {
@@ -58,17 +66,6 @@ QStringList aliasesOfSlot(int slot)
     default:
         return {};
     }
-}
-
-// Lower case without blanks, hyphens and underscores: "5G NR" -> "5gnr".
-QString squashTech(const QString &text)
-{
-    QString out;
-    for (QChar c : text) {
-        if (c != QLatin1Char(' ') && c != QLatin1Char('-') && c != QLatin1Char('_'))
-            out += c.toLower();
-    }
-    return out;
 }
 
 // Lower-case letters, digits and dots only: "R-GSM 900 (China)" -> "rgsm900china".
@@ -140,7 +137,93 @@ QStringList shortKeys(const QString &name)
 
 QString quoted(const QString &text)
 {
-    return QLatin1Char('"') + text + QLatin1Char('"');
+    return echoed(text);
+}
+
+// The prefixes engineers put before a band number, by the technologies they
+// name when the technology is left out: "B1", "band1" (LTE), "bc0" (CDMA),
+// "n78" (NR, whose keys keep the n).
+struct BandPrefix
+{
+    const char *prefix;
+    const char *tech; // a technology name or short form
+    bool keep;
+};
+const QList<BandPrefix> &bandPrefixes()
+{
+    static const QList<BandPrefix> list{
+        {"band", "lte", false}, {"bc", "cdma", false}, {"b", "lte", false}, {"n", "nr", true}};
+    return list;
+}
+
+bool allDigits(const QString &text)
+{
+    for (QChar c : text) {
+        if (!c.isDigit())
+            return false;
+    }
+    return !text.isEmpty();
+}
+
+QString withoutLeadingZeros(QString digits)
+{
+    while (digits.size() > 1 && digits[0] == QLatin1Char('0'))
+        digits.remove(0, 1);
+    return digits;
+}
+
+// A Roman numeral as UTRA bands are written ("iv"), or 0.
+int romanValue(const QString &text)
+{
+    static const QList<std::pair<int, const char *>> kNumerals{
+        {50, "l"}, {40, "xl"}, {10, "x"}, {9, "ix"}, {5, "v"}, {4, "iv"}, {1, "i"}};
+    const auto write = [](int value) {
+        QString out;
+        for (const auto &numeral : kNumerals) {
+            for (; value >= numeral.first; value -= numeral.first)
+                out += QLatin1String(numeral.second);
+        }
+        return out;
+    };
+    for (int value = 1; value < 90; ++value) {
+        if (write(value) == text)
+            return value;
+    }
+    return 0;
+}
+
+// A typed band key in the form the short keys take: lower case, without a
+// band prefix or leading zeros, a UTRA Roman numeral as its number.
+QString normalisedKey(const QString &key, const QList<int> &slotList)
+{
+    QString lower = key.toLower();
+    for (const BandPrefix &p : bandPrefixes()) {
+        const QString rest = lower.mid(int(qstrlen(p.prefix)));
+        if (!p.keep && lower.startsWith(QLatin1String(p.prefix)) && allDigits(rest)) {
+            lower = rest;
+            break;
+        }
+    }
+    if (allDigits(lower))
+        return withoutLeadingZeros(lower);
+    if (lower.startsWith(QLatin1Char('n')) && allDigits(lower.mid(1)))
+        return QLatin1Char('n') + withoutLeadingZeros(lower.mid(1));
+    if (slotList.contains(SlotWcdma) && romanValue(lower) > 0)
+        return QString::number(romanValue(lower));
+    return lower;
+}
+
+// The technology of a band named without it ("B7", "n78", "bc0"), or an
+// empty string when the text is not of that form.
+QString bareAliasTech(const QString &text)
+{
+    const QString lower = text.toLower();
+    for (const BandPrefix &p : bandPrefixes()) {
+        if (lower.startsWith(QLatin1String(p.prefix))
+            && allDigits(lower.mid(int(qstrlen(p.prefix)))))
+            return QLatin1String(p.tech);
+    }
+    return {};
 }
 
 QString techListText()
@@ -174,13 +257,13 @@ QString techNamesText(const QList<int> &slotList, const char *separator)
     return names.join(QLatin1String(separator));
 }
 
-// Every slot whose name or short form is text (case, blanks and hyphens aside).
+// Every slot whose name or short form is text (case aside).
 QList<int> techCandidates(const QString &text)
 {
-    const QString key = squashTech(text);
+    const QString key = text.trimmed().toLower();
     QList<int> found;
     for (int t : techSlots()) {
-        if (squashTech(techName(t)) == key || techAliases(t).contains(key))
+        if (techName(t).toLower() == key || techAliases(t).contains(key))
             found << t;
     }
     return found;
@@ -192,27 +275,23 @@ QList<BandRef> matchShortForm(const QList<int> &slotList, const QString &key)
     // key with a qualifier ("2-additional", "21-3500"). The first tier that
     // matches anything decides.
     QList<BandRef> byName, byKey, byQualified;
-    const QString squashed = squash(key);
+    const QString lower = key.toLower();
+    const QString normalised = normalisedKey(key, slotList);
     const int dash = key.lastIndexOf(QLatin1Char('-'));
-    const QString base = dash > 0 ? squash(key.left(dash)) : QString();
-    const QString qualifier = dash > 0 ? key.mid(dash + 1).trimmed().toLower() : QString();
+    const QString base = dash > 0 ? normalisedKey(key.left(dash), slotList) : QString();
+    const QString qualifier = dash > 0 ? key.mid(dash + 1).toLower() : QString();
     for (int t : slotList) {
         const ChTechnology &tech = store().Technologies[t];
         for (int b = 0; b < tech.NumBand; ++b) {
             const QString &name = tech.Bands[b].BandName;
             const QStringList keys = shortKeys(name);
-            if (squash(name) == squashed)
+            if (name.toLower() == lower)
                 byName << BandRef{t, b};
-            else if (keys.contains(squashed))
+            else if (keys.contains(normalised))
                 byKey << BandRef{t, b};
-            else if (!qualifier.isEmpty() && keys.contains(base)) {
-                for (const QString &word : qualifierWords(name)) {
-                    if (word.startsWith(qualifier)) {
-                        byQualified << BandRef{t, b};
-                        break;
-                    }
-                }
-            }
+            else if (!qualifier.isEmpty() && keys.contains(base)
+                     && qualifierWords(name).contains(qualifier))
+                byQualified << BandRef{t, b};
         }
     }
     if (!byName.isEmpty())
@@ -282,8 +361,8 @@ BandRef resolveBand(const QString &text)
                               .arg(100 * slot + n - 1)
                               .arg(techName(slot));
         }
-        throw BadInput(QLatin1String("no band has code ") + trimmed + QLatin1String("; codes: ")
-                       + ranges.join(QLatin1String(", ")));
+        throw BadInput(QLatin1String("no band has code ") + cut(trimmed)
+                       + QLatin1String("; codes: ") + ranges.join(QLatin1String(", ")));
     }
 
     const int separator = text.indexOf(QLatin1String(" - "));
@@ -330,43 +409,35 @@ BandRef resolveBand(const QString &text)
         return found.first();
     }
 
+    const QString aliasTech = bareAliasTech(text.trimmed());
+    if (!aliasTech.isEmpty())
+        return resolveBand(aliasTech + QLatin1Char(':') + text.trimmed());
+
     throw BadInput(QLatin1String("cannot read band ") + quoted(text)
                    + QLatin1String(": give a code (201), a channel standard"
                                    " (\"LTE-FDD - Band 1 (2100)\") or TECH:BAND (LTE:1, NR:n78)"));
 }
 
-QList<int> linksOf(const BandRef &band)
+QString shortName(const BandRef &band)
 {
-    const ChBand &data = band.data();
-    bool up = false, down = false;
-    for (int i = 0; i < data.NumSubBand; ++i) {
-        if (isPlaceholder(data.SubBands[i]))
-            continue;
-        up = up || data.SubBands[i].Link == 1;
-        down = down || data.SubBands[i].Link == 0;
+    const QString name = band.bandName();
+    QStringList keys = shortKeys(name);
+    for (const QString &key : shortKeys(name)) {
+        for (const QString &word : qualifierWords(name))
+            keys << key + QLatin1Char('-') + word;
     }
-    QList<int> links;
-    if (up)
-        links << 1;
-    if (down)
-        links << 0;
-    return links;
-}
-
-bool channelFreq(const BandRef &band, int link, int channel, double *mhz)
-{
-    // GetFreq takes the first record that holds the channel and serves the
-    // link. If that record is a placeholder its "frequency" is meaningless.
-    const ChBand &data = band.data();
-    const bool timeDivision = isTimeDivisionBand(data.BandName);
-    for (int i = 0; i < recordCount(data); ++i) {
-        const stSubBand &r = data.SubBands[i];
-        if (!servesLinkOfBand(r, link, timeDivision) || !holdsChannel(r, channel))
-            continue;
-        if (isPlaceholder(r))
-            return false;
-        *mhz = store().GetFreq(band.techName(), band.bandName(), link, channel);
-        return *mhz != -1.0;
+    const QStringList techs = techAliases(band.tech) << techName(band.tech);
+    for (const QString &tech : techs) {
+        for (const QString &key : keys) {
+            QString candidate = tech.toUpper() + QLatin1Char(':') + key;
+            try {
+                if (!candidate.contains(QLatin1Char(' '))
+                    && resolveBand(candidate).code() == band.code())
+                    return candidate;
+            } catch (const BadInput &) {
+                // not unique; try the next form
+            }
+        }
     }
-    return false;
+    return {};
 }

@@ -5,6 +5,8 @@
 
 #include "store/recordrules.h"
 
+#include "duplex.h"
+
 #include <QtCore/QJsonObject>
 #include <QtCore/QList>
 #include <QtCore/QString>
@@ -24,7 +26,8 @@ struct BandRef
     QString bandName() const;
     QString standard() const; // "LTE-FDD - Band 1 (2100)"
     const ChBand &data() const;
-    QJsonObject toJson() const; // code, technology, band
+    Duplex duplex() const;
+    QJsonObject toJson() const; // code, technology, band, duplex
 };
 
 // The technology slots in slot order (techName() of store/technologies.h
@@ -36,13 +39,9 @@ QStringList techAliases(int slot); // short forms accepted besides the name
 // that lists the valid or matching names; nothing falls back to another band.
 int resolveTech(const QString &text);
 BandRef resolveBand(const QString &text);
+// The shortest TECH:BAND form that names the band alone ("NR:n78"), or an
+// empty string where every such form is ambiguous.
+QString shortName(const BandRef &band);
 BandRef bandByNames(const QString &tech, const QString &band); // names as registered
-
-// The links a band has real records for, uplink first.
-QList<int> linksOf(const BandRef &band);
-
-// The frequency of a channel in one link direction, as the library's GetFreq
-// gives it; false when the channel is in no real record of that direction.
-bool channelFreq(const BandRef &band, int link, int channel, double *mhz);
 
 #endif

@@ -2,11 +2,12 @@
 #include "commands.h"
 
 #include "bandname.h"
-#include "messagecapture.h"
+#include "chartsvg.h"
+#include "lookup.h"
 
+#include <QtCore/QFile>
 #include <QtCore/QJsonArray>
 #include <QtCore/QMap>
-#include <QtCore/QSet>
 
 #include <algorithm>
 #include <cmath>
@@ -20,20 +21,48 @@ int parseChannel(const QString &text)
 {
     bool ok = false;
     const int channel = text.trimmed().toInt(&ok, 10);
-    if (!ok)
-        throw BadInput(QLatin1String("channel \"") + text
-                       + QLatin1String("\" is not a whole number"));
-    return channel;
+    if (ok && channel >= 0)
+        return channel;
+    const QString what = QLatin1String("channel ") + echoed(text);
+    if (ok)
+        throw BadInput(what + QLatin1String(" must not be negative"));
+    bool number = false;
+    const double value = text.trimmed().toDouble(&number);
+    if (number && value == std::floor(value))
+        throw BadInput(what
+                       + (value < 0 ? QLatin1String(" must not be negative")
+                                    : QLatin1String(" is out of range")));
+    throw BadInput(what + QLatin1String(" is not a whole number"));
 }
 
 double parseMHz(const QString &text)
 {
     bool ok = false;
     const double mhz = text.trimmed().toDouble(&ok);
-    if (!ok || !std::isfinite(mhz) || mhz < 0)
-        throw BadInput(QLatin1String("frequency \"") + text
-                       + QLatin1String("\" is not a number of MHz"));
+    const QString what = QLatin1String("frequency ") + echoed(text);
+    if (!ok)
+        throw BadInput(what + QLatin1String(" is not a number of MHz"));
+    if (mhz < 0)
+        throw BadInput(what + QLatin1String(" must be positive"));
+    if (!std::isfinite(mhz))
+        throw BadInput(what + QLatin1String(" is out of range"));
     return mhz;
+}
+
+QList<int> parseChannels(const QStringList &args)
+{
+    QList<int> channels;
+    for (const QString &arg : args)
+        channels << parseChannel(arg);
+    return channels;
+}
+
+QList<double> parseFrequencies(const QStringList &args)
+{
+    QList<double> freqs;
+    for (const QString &arg : args)
+        freqs << parseMHz(arg);
+    return freqs;
 }
 
 QJsonArray toJsonArray(const QList<Range> &ranges)
@@ -81,50 +110,6 @@ QString bandTitle(const BandRef &band)
     return band.standard() + QStringLiteral(" [%1]").arg(band.code());
 }
 
-// The channel whose centre is mhz, or -1. The library matches only the exact
-// double its formula yields; a decimal typed by a person is the nearest double
-// to that decimal, which can differ from the formula's result in the last bits
-// (2140.2 against 2140.2000000000003). So the neighbouring doubles are tried
-// too; they all print as the same decimal.
-int channelAt(const BandRef &band, int link, double mhz, int preferred)
-{
-    // Skip the call (and its "Not supported" line) where no record of the
-    // link reaches the frequency.
-    const ChBand &data = band.data();
-    bool reachable = false;
-    for (int i = 0; i < data.NumSubBand && !reachable; ++i) {
-        const stSubBand &r = data.SubBands[i];
-        reachable = !isPlaceholder(r) && servesLink(r, link) && r.StartFreq - 1e-6 <= mhz
-                    && mhz <= r.StopFreq + 1e-6;
-    }
-    if (!reachable)
-        return -1;
-
-    QList<double> tries{mhz};
-    double up = mhz, down = mhz;
-    for (int step = 0; step < 4; ++step) {
-        up = std::nextafter(up, HUGE_VAL);
-        down = std::nextafter(down, -HUGE_VAL);
-        tries << up << down;
-    }
-    QString firstMiss;
-    for (int i = 0; i < tries.size(); ++i) {
-        int channel = -1;
-        {
-            StandardOutputCapture capture; // the library reports a miss on standard output
-            channel = store().GetChNumFromFreq(band.techName(), band.bandName(), link, tries[i],
-                                               preferred);
-            if (i == 0)
-                firstMiss = capture.text();
-        }
-        double check = 0;
-        if (channel != -1 && channelFreq(band, link, channel, &check))
-            return channel;
-    }
-    libraryDiagnostic(firstMiss);
-    return -1;
-}
-
 // ---------------------------------------------------------------- commands
 
 Outcome runTechs(const QStringList &, const CommandOptions &)
@@ -164,7 +149,7 @@ Outcome runBands(const QStringList &args, const CommandOptions &)
     TextTable table({QStringLiteral("CODE"), QStringLiteral("BAND"), QStringLiteral("UL CHANNELS"),
                      QStringLiteral("UL MHZ"), QStringLiteral("DL CHANNELS"),
                      QStringLiteral("DL MHZ"), QStringLiteral("RECORDS"),
-                     QStringLiteral("UL ONLY")});
+                     QStringLiteral("DUPLEX")});
     table.alignRight(0);
     table.alignRight(6);
     QJsonArray list;
@@ -172,17 +157,13 @@ Outcome runBands(const QStringList &args, const CommandOptions &)
         const BandRef band{t, b};
         const ChBand &data = band.data();
         QStringList row{QString::number(band.code()), data.BandName};
-        QJsonObject entry{{QStringLiteral("code"), band.code()},
-                          {QStringLiteral("band"), data.BandName},
-                          {QStringLiteral("standard"), band.standard()}};
+        QJsonObject entry = band.toJson();
+        entry.insert(QStringLiteral("standard"), band.standard());
         for (int link : {1, 0}) {
             QList<Range> channels, edges;
-            for (int i = 0; i < data.NumSubBand; ++i) {
-                const stSubBand &r = data.SubBands[i];
-                if (r.Link != link || isPlaceholder(r))
-                    continue;
-                channels.append({r.StartChannelNo, r.StopChannelNo});
-                edges.append({r.StartFreq, r.StopFreq});
+            for (const stSubBand *r : recordsFor(band, link)) {
+                channels.append({r->StartChannelNo, r->StopChannelNo});
+                edges.append({r->StartFreq, r->StopFreq});
             }
             channels = merged(channels, 1);
             edges = merged(edges, 0);
@@ -198,12 +179,9 @@ Outcome runBands(const QStringList &args, const CommandOptions &)
                              : QJsonObject{{QStringLiteral("channels"), toJsonArray(channels)},
                                            {QStringLiteral("mhz"), toJsonArray(edges)}});
         }
-        const bool uplinkOnly = store().IsUplinkOnly(tech.TechName, data.BandName);
-        row << QString::number(data.NumSubBand)
-            << (uplinkOnly ? QStringLiteral("yes") : QStringLiteral("no"));
+        row << QString::number(data.NumSubBand) << duplexName(band.duplex());
         entry.insert(QStringLiteral("global"), data.IsGlobal);
         entry.insert(QStringLiteral("records"), data.NumSubBand);
-        entry.insert(QStringLiteral("uplinkOnly"), uplinkOnly);
         table.addRow(row);
         list.append(entry);
     }
@@ -213,30 +191,97 @@ Outcome runBands(const QStringList &args, const CommandOptions &)
     return out;
 }
 
+Outcome runBand(const QStringList &args, const CommandOptions &)
+{
+    const BandRef band = resolveBand(args[0]);
+    const ChBand &data = band.data();
+    const QString duplex = duplexName(band.duplex());
+    Outcome out;
+    TextTable table({QStringLiteral("DIR"), QStringLiteral("CHANNELS"), QStringLiteral("EDGES MHZ"),
+                     QStringLiteral("FIRST MHZ"), QStringLiteral("LAST MHZ"),
+                     QStringLiteral("STEP MHZ"), QStringLiteral("DUPLEX"),
+                     QStringLiteral("PAIR OFFSET")});
+    table.alignRight(7);
+    QJsonArray records;
+    for (int i = 0; i < recordCount(data); ++i) {
+        const stSubBand &r = data.SubBands[i];
+        if (isPlaceholder(r))
+            continue;
+        const double first = recordFreq(r, r.StartChannelNo);
+        const double last = recordFreq(r, r.StopChannelNo);
+        const bool stepped = r.StopChannelNo > r.StartChannelNo;
+        const double step = stepped ? recordFreq(r, r.StartChannelNo + 1) - first : 0;
+        int paired = 0;
+        const bool hasPair = pairedChannel(band, r.Link, r.StartChannelNo, &paired);
+        const int offset = r.Link == 1 ? r.StartChannelNo - paired : paired - r.StartChannelNo;
+        table.addRow(
+            {linkShort(r.Link), QStringLiteral("%1-%2").arg(r.StartChannelNo).arg(r.StopChannelNo),
+             formatMHz(r.StartFreq) + QLatin1Char('-') + formatMHz(r.StopFreq), formatMHz(first),
+             formatMHz(last), stepped ? formatMHz(step) : QStringLiteral("-"), duplex,
+             hasPair ? QString::number(offset) : QStringLiteral("-")});
+        records.append(
+            QJsonObject{{QStringLiteral("direction"), linkWord(r.Link)},
+                        {QStringLiteral("channels"), QJsonArray{r.StartChannelNo, r.StopChannelNo}},
+                        {QStringLiteral("edgesMHz"), QJsonArray{r.StartFreq, r.StopFreq}},
+                        {QStringLiteral("firstMHz"), first},
+                        {QStringLiteral("lastMHz"), last},
+                        {QStringLiteral("stepMHz"), jsonNumberOrNull(stepped, step)},
+                        {QStringLiteral("pairOffset"), jsonNumberOrNull(hasPair, offset)}});
+    }
+    out.json.insert(QStringLiteral("band"), band.toJson());
+    out.json.insert(QStringLiteral("records"), records);
+    out.text = bandTitle(band) + QLatin1Char('\n') + table.render();
+    return out;
+}
+
+// The channel of the other direction paired with a found channel, for text
+// ("UL 18300 1950") and JSON; nothing where the band is not paired.
+void addPair(const BandRef &band, int link, int channel, QStringList *text, QJsonArray *json)
+{
+    int other = 0;
+    if (!pairedChannel(band, link, channel, &other))
+        return;
+    double mhz = 0;
+    const bool found = channelFreq(band, 1 - link, other, &mhz);
+    *text << linkShort(1 - link) + QLatin1Char(' ') + QString::number(other) + QLatin1Char(' ')
+                 + (found ? formatMHz(mhz) : QStringLiteral("-"));
+    json->append(QJsonObject{{QStringLiteral("direction"), linkWord(1 - link)},
+                             {QStringLiteral("channel"), other},
+                             {QStringLiteral("mhz"), jsonNumberOrNull(found, mhz)}});
+}
+
 Outcome runFreq(const QStringList &args, const CommandOptions &options)
 {
     const BandRef band = resolveBand(args[0]);
-    QList<int> channels;
-    for (int i = 1; i < args.size(); ++i)
-        channels << parseChannel(args[i]);
+    const QList<int> channels = parseChannels(args.mid(1));
     const QList<int> links = linksFor(band, options);
+    const bool paired = band.duplex() == Duplex::Fdd;
 
     Outcome out;
     QStringList header{QStringLiteral("CHANNEL")};
     for (int link : links)
         header << linkShort(link) + QLatin1String(" MHZ");
+    if (paired)
+        header << QStringLiteral("PAIRED");
     TextTable table(header);
     QJsonArray results;
     bool any = false;
     for (int channel : channels) {
-        QStringList row{QString::number(channel)};
+        QStringList row{QString::number(channel)}, pairs;
         QJsonObject entry{{QStringLiteral("channel"), channel}};
+        QJsonArray pairList;
         for (int link : links) {
             double mhz = 0;
             const bool found = channelFreq(band, link, channel, &mhz);
             any = any || found;
             row << (found ? formatMHz(mhz) : QStringLiteral("-"));
             entry.insert(linkWord(link), jsonNumberOrNull(found, mhz));
+            if (found)
+                addPair(band, link, channel, &pairs, &pairList);
+        }
+        if (paired) {
+            row << (pairs.isEmpty() ? QStringLiteral("-") : pairs.join(QLatin1String(", ")));
+            entry.insert(QStringLiteral("paired"), pairList);
         }
         table.addRow(row);
         results.append(entry);
@@ -261,26 +306,44 @@ Outcome runFreq(const QStringList &args, const CommandOptions &options)
 Outcome runChannel(const QStringList &args, const CommandOptions &options)
 {
     const BandRef band = resolveBand(args[0]);
-    QList<double> freqs;
-    for (int i = 1; i < args.size(); ++i)
-        freqs << parseMHz(args[i]);
+    const QList<double> freqs = parseFrequencies(args.mid(1));
     const QList<int> links = linksFor(band, options);
 
     Outcome out;
     QStringList header{QStringLiteral("MHZ")};
-    for (int link : links)
+    for (int link : links) {
         header << linkShort(link) + QLatin1String(" CHANNEL");
+        if (options.nearest)
+            header << linkShort(link) + QLatin1String(" OFFSET MHZ");
+    }
     TextTable table(header);
     QJsonArray results;
     bool any = false;
     for (int i = 0; i < freqs.size(); ++i) {
-        QStringList row{args[i + 1].trimmed()};
+        const QString typed = args[i + 1].trimmed();
+        QStringList row{typed};
         QJsonObject entry{{QStringLiteral("mhz"), freqs[i]}};
         for (int link : links) {
-            const int channel = channelAt(band, link, freqs[i], options.preferred);
-            any = any || channel != -1;
-            row << (channel != -1 ? QString::number(channel) : QStringLiteral("-"));
-            entry.insert(linkWord(link), jsonNumberOrNull(channel != -1, channel));
+            ChannelHit hit;
+            const bool found = options.nearest
+                                   ? nearestChannel(band, link, freqs[i], &hit)
+                                   : channelAt(band, link, freqs[i], options.preferred, &hit);
+            any = any || found;
+            const double offset = hit.mhz - freqs[i];
+            row << (found ? QString::number(hit.channel) : QStringLiteral("-"));
+            if (options.nearest)
+                row << (found ? formatMHz(offset) : QStringLiteral("-"));
+            QJsonObject match{{QStringLiteral("channel"), hit.channel},
+                              {QStringLiteral("channelMHz"), hit.mhz},
+                              {QStringLiteral("offsetMHz"), offset},
+                              {QStringLiteral("insideEdges"), hit.insideEdges}};
+            entry.insert(linkWord(link), found ? QJsonValue(match) : QJsonValue());
+            if (found && !hit.insideEdges)
+                out.notes << QStringLiteral("%1 channel %2 (%3 MHz) lies outside the stated "
+                                            "edges of %4")
+                                 .arg(linkShort(link))
+                                 .arg(hit.channel)
+                                 .arg(formatMHz(hit.mhz), band.standard());
         }
         table.addRow(row);
         results.append(entry);
@@ -288,13 +351,17 @@ Outcome runChannel(const QStringList &args, const CommandOptions &options)
     out.json.insert(QStringLiteral("band"), band.toJson());
     out.json.insert(QStringLiteral("preferred"),
                     jsonNumberOrNull(options.hasPreferred, options.preferred));
+    out.json.insert(QStringLiteral("nearest"), options.nearest);
     out.json.insert(QStringLiteral("results"), results);
     if (!any) {
         out.status = ExitNoResult;
-        out.notes << (freqs.size() == 1 ? args[1].trimmed() + QLatin1String(" MHz is not")
+        out.notes << (freqs.size() == 1 ? cut(args[1].trimmed()) + QLatin1String(" MHz is not")
                                         : QStringLiteral("none of these frequencies is"))
-                         + QLatin1String(" a channel centre of ") + band.standard()
-                         + QLatin1String(" (try: saiskuko search MHZ)");
+                         + (options.nearest ? QLatin1String(" within ")
+                                            : QLatin1String(" a channel centre of "))
+                         + band.standard()
+                         + (options.nearest ? QLatin1String("")
+                                            : QLatin1String(" (try: --nearest)"));
         return out;
     }
     out.text = bandTitle(band) + QLatin1Char('\n') + table.render();
@@ -303,9 +370,7 @@ Outcome runChannel(const QStringList &args, const CommandOptions &options)
 
 Outcome runSearch(const QStringList &args, const CommandOptions &options)
 {
-    QList<double> freqs;
-    for (const QString &arg : args)
-        freqs << parseMHz(arg);
+    const QList<double> freqs = parseFrequencies(args);
 
     Outcome out;
     TextTable table({QStringLiteral("MHZ"), QStringLiteral("CODE"), QStringLiteral("TECH"),
@@ -317,36 +382,21 @@ Outcome runSearch(const QStringList &args, const CommandOptions &options)
     for (int i = 0; i < freqs.size(); ++i) {
         const double f = freqs[i];
         QJsonArray hits;
-        QSet<QString> seen;
-        for (const ChInfo &info : store().GetChInfoFromFreq(f)) {
-            const BandRef band = bandByNames(info.techName, info.bandName);
-            if (band.tech < 0 || info.channelNo < 0)
+        for (const SearchHit &hit : searchHits(f)) {
+            if (!options.links.isEmpty() && !options.links.contains(hit.link))
                 continue;
-            if (!options.links.isEmpty() && !options.links.contains(info.linkDirection))
-                continue;
-            // A band can hold the frequency in several records of one link
-            // (channel ranges that share the band edges); the first hit is the
-            // nearest, the others add nothing.
-            const QString key = QStringLiteral("%1/%2").arg(band.code()).arg(info.linkDirection);
-            if (seen.contains(key))
-                continue;
-            double centre = 0;
-            if (!channelFreq(band, info.linkDirection, info.channelNo, &centre))
-                continue; // a placeholder record, not a real channel
-            seen.insert(key);
-            table.addRow({args[i].trimmed(), QString::number(band.code()), band.techName(),
-                          band.bandName(), linkShort(info.linkDirection),
-                          QString::number(info.channelNo), formatMHz(centre),
-                          formatMHz(info.freqOffset)});
-            QJsonObject hit = band.toJson();
-            hit.insert(QStringLiteral("direction"), linkWord(info.linkDirection));
-            hit.insert(QStringLiteral("channel"), info.channelNo);
-            hit.insert(QStringLiteral("channelMHz"), centre);
-            hit.insert(QStringLiteral("offsetMHz"), info.freqOffset);
-            hits.append(hit);
+            table.addRow({args[i].trimmed(), QString::number(hit.band.code()), hit.band.techName(),
+                          hit.band.bandName(), linkShort(hit.link), QString::number(hit.channel),
+                          formatMHz(hit.centreMHz), formatMHz(hit.offsetMHz)});
+            QJsonObject item = hit.band.toJson();
+            item.insert(QStringLiteral("direction"), linkWord(hit.link));
+            item.insert(QStringLiteral("channel"), hit.channel);
+            item.insert(QStringLiteral("channelMHz"), hit.centreMHz);
+            item.insert(QStringLiteral("offsetMHz"), hit.offsetMHz);
+            hits.append(item);
         }
         if (hits.isEmpty())
-            out.notes << QLatin1String("no band holds ") + args[i].trimmed()
+            out.notes << QLatin1String("no band holds ") + cut(args[i].trimmed())
                              + QLatin1String(" MHz");
         results.append(QJsonObject{{QStringLiteral("mhz"), f}, {QStringLiteral("hits"), hits}});
     }
@@ -365,8 +415,8 @@ Outcome runChannels(const QStringList &args, const CommandOptions &options)
     const double low = parseMHz(args[1]);
     const double high = parseMHz(args[2]);
     if (low > high)
-        throw BadInput(QLatin1String("the window ") + args[1].trimmed() + QLatin1String(" to ")
-                       + args[2].trimmed() + QLatin1String(" MHz is empty: LOW exceeds HIGH"));
+        throw BadInput(QLatin1String("the window ") + cut(args[1].trimmed()) + QLatin1String(" to ")
+                       + cut(args[2].trimmed()) + QLatin1String(" MHz is empty: LOW exceeds HIGH"));
 
     Outcome out;
     TextTable table({QStringLiteral("DIR"), QStringLiteral("FIRST"), QStringLiteral("LAST"),
@@ -376,17 +426,13 @@ Outcome runChannels(const QStringList &args, const CommandOptions &options)
     table.alignRight(2);
     table.alignRight(3);
     QJsonArray directions;
-    const ChBand &data = band.data();
     for (int link : linksFor(band, options)) {
         // Every record of the link, not only the first: E-GSM 900's uplink
         // has two channel ranges.
         QMap<int, double> inside;
-        for (int i = 0; i < data.NumSubBand; ++i) {
-            const stSubBand &r = data.SubBands[i];
-            if (r.Link != link || isPlaceholder(r))
-                continue;
-            for (qint64 ch = r.StartChannelNo; ch <= r.StopChannelNo; ++ch) {
-                const double mhz = r.FreqFunc(int(ch), r.BaseFreq, r.StartChannelNo);
+        for (const stSubBand *r : recordsFor(band, link)) {
+            for (qint64 ch = r->StartChannelNo; ch <= r->StopChannelNo; ++ch) {
+                const double mhz = recordFreq(*r, int(ch));
                 if (mhz >= low && mhz <= high && !inside.contains(int(ch)))
                     inside.insert(int(ch), mhz);
             }
@@ -421,8 +467,8 @@ Outcome runChannels(const QStringList &args, const CommandOptions &options)
     if (directions.isEmpty()) {
         out.status = ExitNoResult;
         out.notes << QLatin1String("no channel of ") + band.standard()
-                         + QLatin1String(" lies between ") + args[1].trimmed()
-                         + QLatin1String(" and ") + args[2].trimmed() + QLatin1String(" MHz");
+                         + QLatin1String(" lies between ") + cut(args[1].trimmed())
+                         + QLatin1String(" and ") + cut(args[2].trimmed()) + QLatin1String(" MHz");
         return out;
     }
     out.text = bandTitle(band) + QLatin1String(", ") + formatMHz(low) + QLatin1String(" to ")
@@ -437,13 +483,39 @@ QStringList rangeLines(const QString &text)
                                     : text.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
 }
 
+constexpr int kFirstMode = 1;
+constexpr int kLastMode = 23;
+
+// Every mode code and the technologies its band table lists.
+Outcome runModes(const CommandOptions &options)
+{
+    Outcome out;
+    TextTable table({QStringLiteral("MODE"), QStringLiteral("TECHNOLOGIES")});
+    table.alignRight(0);
+    QJsonArray modes;
+    for (int mode = kFirstMode; mode <= kLastMode; ++mode) {
+        QStringList techs = ChStd::GetBandListByMode(mode, 0, options.link).techList;
+        techs.removeDuplicates();
+        table.addRow({QString::number(mode),
+                      techs.isEmpty() ? QStringLiteral("-") : techs.join(QLatin1String(", "))});
+        modes.append(
+            QJsonObject{{QStringLiteral("mode"), mode},
+                        {QStringLiteral("technologies"), QJsonArray::fromStringList(techs)}});
+    }
+    out.json.insert(QStringLiteral("modes"), modes);
+    out.text = table.render();
+    return out;
+}
+
 Outcome runTable(const QStringList &args, const CommandOptions &options)
 {
+    if (args.isEmpty())
+        return runModes(options);
     bool ok = false;
     const int mode = args[0].trimmed().toInt(&ok, 10);
-    if (!ok || mode < 1 || mode > 23)
-        throw BadInput(QLatin1String("mode \"") + args[0]
-                       + QLatin1String("\" is not an instrument mode (1 to 23)"));
+    if (!ok || mode < kFirstMode || mode > kLastMode)
+        throw BadInput(QLatin1String("mode ") + echoed(args[0])
+                       + QLatin1String(" is not an instrument mode (1 to 23)"));
     const stCHList list = ChStd::GetBandListByMode(mode, 0, options.link);
 
     Outcome out;
@@ -483,44 +555,47 @@ Outcome runTable(const QStringList &args, const CommandOptions &options)
 
 Outcome runWhich(const QStringList &args, const CommandOptions &options)
 {
-    const int channel = parseChannel(args[0]);
+    const QList<int> channels = parseChannels(args);
     Outcome out;
-    TextTable table({QStringLiteral("CODE"), QStringLiteral("TECH"), QStringLiteral("BAND"),
-                     QStringLiteral("DIR"), QStringLiteral("MHZ")});
+    TextTable table({QStringLiteral("CHANNEL"), QStringLiteral("CODE"), QStringLiteral("TECH"),
+                     QStringLiteral("BAND"), QStringLiteral("DIR"), QStringLiteral("MHZ")});
     table.alignRight(0);
-    QJsonArray matches;
-    for (int t : techSlots()) {
-        const ChTechnology &tech = store().Technologies[t];
-        for (int b = 0; b < tech.NumBand; ++b) {
-            const BandRef band{t, b};
-            const ChBand &data = band.data();
-            if (data.IsGlobal)
-                continue; // it repeats the records of the other bands
-            QList<std::pair<int, double>> shown;
-            for (int i = 0; i < data.NumSubBand; ++i) {
-                const stSubBand &r = data.SubBands[i];
-                if (isPlaceholder(r) || channel < r.StartChannelNo || channel > r.StopChannelNo)
-                    continue;
-                if (!options.links.isEmpty() && !options.links.contains(r.Link))
-                    continue;
-                double mhz = 0;
-                if (!channelFreq(band, r.Link, channel, &mhz) || shown.contains({r.Link, mhz}))
-                    continue;
-                shown.append({r.Link, mhz});
-                table.addRow({QString::number(band.code()), tech.TechName, data.BandName,
-                              linkShort(r.Link), formatMHz(mhz)});
-                QJsonObject match = band.toJson();
-                match.insert(QStringLiteral("direction"), linkWord(r.Link));
-                match.insert(QStringLiteral("mhz"), mhz);
-                matches.append(match);
+    table.alignRight(1);
+    QJsonArray results;
+    for (int channel : channels) {
+        QJsonArray matches;
+        for (int t : techSlots()) {
+            const ChTechnology &tech = store().Technologies[t];
+            for (int b = 0; b < tech.NumBand; ++b) {
+                const BandRef band{t, b};
+                if (band.data().IsGlobal)
+                    continue; // it repeats the records of the other bands
+                for (int link : linksFor(band, options)) {
+                    QList<double> shown;
+                    for (const stSubBand *r : recordsFor(band, link)) {
+                        const double mhz = recordFreq(*r, channel);
+                        if (!holdsChannel(*r, channel) || shown.contains(mhz))
+                            continue;
+                        shown.append(mhz);
+                        table.addRow({QString::number(channel), QString::number(band.code()),
+                                      tech.TechName, band.bandName(), linkShort(link),
+                                      formatMHz(mhz)});
+                        QJsonObject match = band.toJson();
+                        match.insert(QStringLiteral("direction"), linkWord(link));
+                        match.insert(QStringLiteral("mhz"), mhz);
+                        matches.append(match);
+                    }
+                }
             }
         }
+        if (matches.isEmpty())
+            out.notes << QStringLiteral("no band has a channel %1").arg(channel);
+        results.append(QJsonObject{{QStringLiteral("channel"), channel},
+                                   {QStringLiteral("matches"), matches}});
     }
-    out.json.insert(QStringLiteral("channel"), channel);
-    out.json.insert(QStringLiteral("matches"), matches);
-    if (matches.isEmpty()) {
+    out.json.insert(QStringLiteral("results"), results);
+    if (table.rowCount() == 0) {
         out.status = ExitNoResult;
-        out.notes << QStringLiteral("no band has a channel %1").arg(channel);
         return out;
     }
     out.text = table.render();
@@ -529,25 +604,69 @@ Outcome runWhich(const QStringList &args, const CommandOptions &options)
 
 } // namespace
 
+Outcome runChart(const QStringList &args, const CommandOptions &options)
+{
+    ChartRequest request;
+    request.lowMHz = parseMHz(args[0]);
+    request.highMHz = parseMHz(args[1]);
+    if (!(request.lowMHz < request.highMHz))
+        throw BadInput(QStringLiteral("chart: LOW must be below HIGH"));
+    for (const QString &tech : options.techs)
+        request.techSlots << resolveTech(tech);
+    for (const QString &mark : options.marks) {
+        request.marksMHz << parseMHz(mark);
+        if (request.marksMHz.last() < request.lowMHz || request.marksMHz.last() > request.highMHz)
+            throw BadInput(QLatin1String("mark ") + echoed(mark)
+                           + QLatin1String(" lies outside the chart's window"));
+    }
+
+    Outcome out;
+    const ChartLayout layout = layoutChart(request);
+    out.json = QJsonObject{{QStringLiteral("lowMHz"), request.lowMHz},
+                           {QStringLiteral("highMHz"), request.highMHz},
+                           {QStringLiteral("bands"), layout.rows.size()},
+                           {QStringLiteral("bars"), layout.barCount()}};
+    if (layout.rows.isEmpty()) {
+        out.status = ExitNoResult;
+        out.notes << QStringLiteral("no band has a record between %1 and %2 MHz")
+                         .arg(formatMHz(request.lowMHz), formatMHz(request.highMHz));
+        return out;
+    }
+    const QByteArray svg = chartSvg(layout);
+    if (options.outputFile.isEmpty()) {
+        out.text = QString::fromUtf8(svg);
+        out.json.insert(QStringLiteral("svg"), out.text);
+        return out;
+    }
+    QFile file(options.outputFile);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate) || file.write(svg) != svg.size()
+        || !file.flush())
+        throw BadInput(QLatin1String("cannot write ") + echoed(options.outputFile));
+    out.json.insert(QStringLiteral("file"), options.outputFile);
+    return out;
+}
+
 const QList<Command> &commands()
 {
     static const QList<Command> list{
-        {"techs", "", "technologies, band counts, integration bandwidths", 0, 0, false, false,
-         false, runTechs},
-        {"bands", "TECH", "codes, channel and MHz ranges, records, UL-only", 1, 1, false, false,
-         false, runBands},
-        {"freq", "BAND CHANNEL...", "centre frequency of each channel, per direction", 2, -1, true,
-         false, false, runFreq},
-        {"channel", "BAND MHZ...", "channel whose centre is exactly MHZ, per direction", 2, -1,
-         true, true, false, runChannel},
-        {"search", "MHZ...", "bands holding MHZ, nearest channel first", 1, -1, true, false, false,
-         runSearch},
-        {"channels", "BAND LOW HIGH", "channels of a band centred in LOW..HIGH MHz", 3, 3, true,
-         false, false, runChannels},
-        {"table", "MODE", "band table of an instrument mode (1 to 23)", 1, 1, false, false, true,
-         runTable},
-        {"which", "CHANNEL", "every band and direction that has CHANNEL", 1, 1, true, false, false,
+        {"techs", "", "technologies, band counts, integration bandwidths", 0, 0, "", runTechs},
+        {"bands", "TECH", "codes, channel and MHz ranges, records, duplex", 1, 1, "", runBands},
+        {"band", "BAND", "one band in detail: every record, raster, duplex, pairing", 1, 1, "",
+         runBand},
+        {"freq", "BAND CHANNEL...", "centre frequency of each channel, per direction", 2, -1,
+         "ul dl", runFreq},
+        {"channel", "BAND MHZ...", "channel centred on MHZ (or the nearest), per direction", 2, -1,
+         "ul dl preferred nearest", runChannel},
+        {"search", "MHZ...", "bands holding MHZ, nearest channel first", 1, -1, "ul dl", runSearch},
+        {"channels", "BAND LOW HIGH", "channels of a band centred in LOW..HIGH MHz", 3, 3, "ul dl",
+         runChannels},
+        {"table", "[MODE]", "band table of an instrument mode; the modes without MODE", 0, 1,
+         "link", runTable},
+        {"which", "CHANNEL...", "every band and direction that has CHANNEL", 1, -1, "ul dl",
          runWhich},
+        {"chart", "LOW HIGH", "an SVG picture of the bands between LOW and HIGH MHz", 2, 2,
+         "tech mark output", runChart},
+        {"batch", "[FILE]", "one command per line of FILE (or standard input)", 0, 1, "", nullptr},
     };
     return list;
 }

@@ -7,13 +7,17 @@
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 
-// The options a command may read; main() rejects those a command does not take.
+// The options a command may read; the program rejects those a command does not take.
 struct CommandOptions
 {
     QList<int> links; // --ul / --dl (1, 0); empty: every link the band has
     bool hasPreferred = false;
     int preferred = -1; // --preferred
     int link = 0;       // --link, for table
+    bool nearest = false;
+    QStringList techs;  // --tech, for chart: technologies to draw
+    QStringList marks;  // --mark, for chart: frequencies to mark
+    QString outputFile; // -o, for chart: where the SVG goes instead of stdout
 };
 
 struct Command
@@ -23,9 +27,8 @@ struct Command
     const char *summary;
     int minArgs;
     int maxArgs;         // -1: no limit
-    bool takesDirection; // --ul / --dl
-    bool takesPreferred;
-    bool takesLink;
+    const char *options; // the options it takes besides the common ones, blank-separated
+    // Null for the command the program runs itself (batch).
     Outcome (*run)(const QStringList &args, const CommandOptions &options);
 };
 

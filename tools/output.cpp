@@ -1,8 +1,9 @@
 // Text for people: MHz, link words, padded tables; where the library's diagnostics go.
 #include "output.h"
 
+#include <QtCore/QTextStream>
+
 #include <algorithm>
-#include <cstdio>
 
 QString formatMHz(double mhz)
 {
@@ -14,6 +15,17 @@ QString formatMHz(double mhz)
     if (s == QLatin1String("-0"))
         s = QStringLiteral("0");
     return s;
+}
+
+QString cut(const QString &text)
+{
+    constexpr int kLongest = 40;
+    return text.size() > kLongest ? text.left(kLongest) + QLatin1String("...") : text;
+}
+
+QString echoed(const QString &text)
+{
+    return QLatin1Char('"') + cut(text) + QLatin1Char('"');
 }
 
 QJsonValue jsonNumberOrNull(bool present, double value)
@@ -60,21 +72,20 @@ QString TextTable::render() const
 }
 
 namespace {
-bool g_libraryDiagnosticsShown = true;
+QTextStream *g_libraryDiagnostics = nullptr;
 }
 
-void setLibraryDiagnosticsShown(bool shown)
+void setLibraryDiagnostics(QTextStream *err)
 {
-    g_libraryDiagnosticsShown = shown;
+    g_libraryDiagnostics = err;
 }
 
 void libraryDiagnostic(const QString &text)
 {
-    if (!g_libraryDiagnosticsShown || text.isEmpty())
+    if (!g_libraryDiagnostics || text.isEmpty())
         return;
-    QByteArray bytes = text.toUtf8();
-    if (!bytes.endsWith('\n'))
-        bytes += '\n';
-    std::fwrite(bytes.constData(), 1, size_t(bytes.size()), stderr);
-    std::fflush(stderr);
+    *g_libraryDiagnostics << text;
+    if (!text.endsWith(QLatin1Char('\n')))
+        *g_libraryDiagnostics << '\n';
+    g_libraryDiagnostics->flush();
 }

@@ -10,7 +10,7 @@
 #include <stdexcept>
 
 // Exit statuses of the program.
-enum ExitStatus { ExitOk = 0, ExitNoResult = 1, ExitBadInput = 2 };
+enum ExitStatus { ExitOk = 0, ExitNoResult = 1, ExitBadInput = 2, ExitWriteFailed = 3 };
 
 // Bad input: reported as one line on stderr, exit status 2.
 class BadInput : public std::runtime_error
@@ -40,6 +40,11 @@ struct Outcome
 // exactly while hiding the binary noise of the formulas (2140.2000000000003).
 QString formatMHz(double mhz);
 
+// An argument echoed in a message: cut to a length a message can carry, and
+// quoted (echoed).
+QString cut(const QString &text);
+QString echoed(const QString &text);
+
 // A number for JSON, or null for "not in band".
 QJsonValue jsonNumberOrNull(bool present, double value);
 
@@ -47,9 +52,10 @@ QJsonValue jsonNumberOrNull(bool present, double value);
 QString linkShort(int link);
 QString linkWord(int link);
 
-// The library's own diagnostics (its log lines and the text it writes to
-// standard output) go to stderr, unless silenced with --quiet.
-void setLibraryDiagnosticsShown(bool shown);
+// The library's own diagnostics (its log lines) go to the error stream given
+// here, or nowhere (the default; --verbose shows them).
+class QTextStream;
+void setLibraryDiagnostics(QTextStream *err);
 void libraryDiagnostic(const QString &text);
 
 // Columns padded to their widest cell, two blanks apart, no trailing blanks.

@@ -16,24 +16,45 @@ struct Run
     QString out, err;
 };
 
-// Arguments split at blanks, or at '|' where one holds a blank.
-Run saiskuko(const char *line, const char *extra = nullptr)
+// Arguments split at blanks, or at '|' where one holds a blank; input is fed
+// to standard input, and stdout goes to outputFile when one is given.
+Run saiskuko(const QString &line, const QByteArray &input = {}, const QString &outputFile = {})
 {
-    const QString text = QString::fromUtf8(line);
-    QStringList arguments = text.split(QLatin1Char(text.contains(QLatin1Char('|')) ? '|' : ' '));
-    if (extra)
-        arguments << QString::fromUtf8(extra);
     QProcess process;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.remove(
         QStringLiteral("LD_LIBRARY_PATH")); // only the installed layout may supply the library
     process.setProcessEnvironment(environment);
-    process.start(qEnvironmentVariable("SAISKUKO_CLI"), arguments);
+    if (!outputFile.isEmpty())
+        process.setStandardOutputFile(outputFile);
+    process.start(qEnvironmentVariable("SAISKUKO_CLI"),
+                  line.split(QLatin1Char(line.contains(QLatin1Char('|')) ? '|' : ' ')));
+    process.write(input);
+    process.closeWriteChannel();
     Run run;
     if (process.waitForFinished(60000) && process.exitStatus() == QProcess::NormalExit)
         run = {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
                QString::fromUtf8(process.readAllStandardError())};
     return run;
+}
+
+// One JSON document per line of a batch run with --json.
+QList<QJsonObject> batchJson(const QStringList &lines)
+{
+    QList<QJsonObject> documents;
+    const Run run =
+        saiskuko(QStringLiteral("--json batch"), lines.join(QLatin1Char('\n')).toUtf8());
+    for (const QString &line : run.out.split(QLatin1Char('\n'), Qt::SkipEmptyParts))
+        documents << QJsonDocument::fromJson(line.toUtf8()).object();
+    return documents;
+}
+
+QString installed(const char *path)
+{
+    QFile file(QFileInfo(qEnvironmentVariable("SAISKUKO_CLI"))
+                   .dir()
+                   .filePath(QLatin1String("../share/") + QLatin1String(path)));
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
 }
 
 } // namespace
@@ -43,123 +64,244 @@ class TestCli : public QObject
     Q_OBJECT
 
 private slots:
-    void exactOutput_data()
-    {
-        QTest::addColumn<QString>("arguments");
-        QTest::addColumn<QString>("expected");
-        const auto row = [](const char *name, const char *arguments, const char *expected) {
-            QTest::newRow(name) << QString::fromUtf8(arguments) << QString::fromUtf8(expected);
-        };
-        // Three ways of naming one band answer alike.
-        const char *band1 =
-            "LTE-FDD - Band 1 (2100) [201]\nCHANNEL  UL MHZ  DL MHZ\n300      -       2140\n"
-            "18300    1950    -\n";
-        row("freq short form", "-q freq LTE:1 300 18300", band1);
-        row("freq code", "-q freq 201 300 18300", band1);
-        row("freq channel standard", "-q|freq|LTE-FDD - Band 1 (2100)|300|18300", band1);
-        // 2140.2 is not the double the formula yields; it must still convert.
-        row("channel from a decimal", "-q channel WCDMA:1 2140.2",
-            "WCDMA - Band 1 (2100-General) [501]\nMHZ     UL CHANNEL  DL CHANNEL\n2140.2  -        "
-            "   10701\n");
-        // 1950 MHz downlink is channel 800 of band 2 and 8240 of band 25.
-        row("preferred kept", "-q channel FDD:global 1950 --dl --preferred 8240",
-            "LTE-FDD - Band Global [200]\nMHZ   DL CHANNEL\n1950  8240\n");
-        row("search, nearest first", "-q search 1842.5",
-            "MHZ     CODE  TECH     BAND                   DIR  CHANNEL  CHANNEL MHZ  OFFSET MHZ\n"
-            "1842.5     4  CDMA     Band 4 (KR PCS)        DL        50  1842.5       0\n"
-            "1842.5     8  CDMA     Band 8 (1800)          DL       750  1842.5       0\n"
-            "1842.5   203  LTE-FDD  Band 3 (1800)          DL      1575  1842.5       0\n"
-            "1842.5   703  5G NR    Band n3 (1800)         DL    368500  1842.5       0\n"
-            "1842.5   107  GSM      DCS 1800               DL       698  1842.4       -0.1\n"
-            "1842.5   504  WCDMA    Band 3 (1800-General)  DL      1337  1842.4       -0.1\n");
-        row("which, every overlapping band", "-q which 630000",
-            "CODE  TECH   BAND                DIR  MHZ\n 723  5G NR  Band n77 (TD 3700)  DL   "
-            "3450\n"
-            " 724  5G NR  Band n78 (TD 3500)  DL   3450\n");
-        row("version", "-q --version", "saiskuko " SAISKUKO_VERSION_STR "\n");
-    }
-
-    void exactOutput()
-    {
-        QFETCH(QString, arguments);
-        const Run run = saiskuko(qPrintable(arguments));
-        QTEST(run.out, "expected");
-        QCOMPARE(run.err, QString());
-        QCOMPARE(run.status, 0);
-    }
-
-    // Bad input exits with 2, a valid query without result with 1: one line on
-    // stderr naming the fault, nothing on stdout, also with --json.
-    void failure_data()
+    // Exact stdout and exit status; stderr holds the message (nothing when empty).
+    void answers_data()
     {
         QTest::addColumn<QString>("arguments");
         QTest::addColumn<int>("status");
-        QTest::addColumn<QString>("message");
-        const auto row = [](const char *arguments, int status, const char *message) {
-            QTest::newRow(arguments)
-                << QString::fromUtf8(arguments) << status << QString::fromUtf8(message);
+        QTest::addColumn<QString>("out");
+        QTest::addColumn<QString>("err");
+        const auto row = [](const char *arguments, int status, const char *out, const char *err) {
+            QTest::newRow(arguments) << QString::fromUtf8(arguments) << status
+                                     << QString::fromUtf8(out) << QString::fromUtf8(err);
         };
-        row("-q", 2, "no command given");
-        row("-q frequency LTE:1 300", 2, "unknown command \"frequency\"");
-        row("-q freq LTE:1", 2, "freq takes more");
-        row("-q freq LTE:1 30x", 2, "channel \"30x\" is not a whole number");
-        row("-q freq LTX:1 300", 2, "unknown technology \"LTX\"");
-        row("-q freq GSM:900 1", 2,
+        // Every way of naming one band answers alike, with the paired channel.
+        const char *band1 = "LTE-FDD - Band 1 (2100) [201]\nCHANNEL  UL MHZ  DL MHZ  PAIRED\n"
+                            "300      -       2140    UL 18300 1950\n";
+        for (const char *name : {"LTE:1", "201", "B1", "b1", "band1", "LTE:01", "lte-fdd:1"})
+            row(qPrintable(QStringLiteral("freq %1 300").arg(QLatin1String(name))), 0, band1, "");
+        row("freq|LTE-FDD - Band 1 (2100)|300", 0, band1, "");
+        row("band N78", 0,
+            "5G NR - Band n78 (TD 3500) [724]\nDIR  CHANNELS       EDGES MHZ  FIRST MHZ  LAST "
+            "MHZ  STEP MHZ  DUPLEX  PAIR OFFSET\nDL   620000-653333  3300-3800  3300       "
+            "3799.995  0.015     TDD               -\n",
+            "");
+        row("band bc0", 0, nullptr, "");
+        row("band WCDMA:VIII", 0, nullptr, "");
+        row("band NR:n078", 0, nullptr, "");
+        // A TDD band shares its channels between the directions in every command.
+        row("channels NR:n78 3400 3400.02 --ul", 0,
+            "5G NR - Band n78 (TD 3500) [724], 3400 to 3400.02 MHz\nDIR   FIRST    LAST  COUNT  "
+            "FIRST MHZ  LAST MHZ\nUL   626667  626668      2  3400.005   3400.02\n",
+            "");
+        row("which 630000 --ul", 0,
+            "CHANNEL  CODE  TECH   BAND                DIR  MHZ\n 630000   723  5G NR  Band n77 "
+            "(TD 3700)  UL   3450\n 630000   724  5G NR  Band n78 (TD 3500)  UL   3450\n",
+            "");
+        row("search 2010 --ul", 0,
+            "MHZ   CODE  TECH      BAND                DIR  CHANNEL  CHANNEL MHZ  OFFSET MHZ\n"
+            "2010   220  LTE-FDD   Band 23 (2100)      UL     25600  2010         0\n"
+            "2010   302  LTE-TDD   Band 34 (2010)      UL     36200  2010         0\n"
+            "2010   711  5G NR     Band n34 (TD 2000)  UL    402000  2010         0\n"
+            "2010   230  LTE-FDD   Band 65 (2100)      UL    131971  2009.9       -0.1\n"
+            "2010   404  TD-SCDMA  FBN 4               UL       142  2009.2       -0.8\n"
+            "2010   405  TD-SCDMA  FBN 5               UL         0  2010.8       0.8\n",
+            "");
+        // A printed frequency converts back, also past a record's stated edges.
+        row("channel CDMA:2 872.0125", 0,
+            "CDMA - Band 2 (TACS) [2]\nMHZ       UL CHANNEL  DL CHANNEL\n872.0125  1329        -\n",
+            "");
+        row("channel NR:n1 2150 2140.0001 --nearest --dl", 0,
+            "5G NR - Band n1 (2100) [701]\nMHZ        DL CHANNEL  DL OFFSET MHZ\n"
+            "2150       430000      0\n2140.0001  428000      -0.0001\n",
+            "DL channel 430000 (2150 MHz) lies outside the stated edges");
+        row("channel FDD:global 1950 --dl --preferred 8240", 0,
+            "LTE-FDD - Band Global [200]\nMHZ   DL CHANNEL\n1950  8240\n", "");
+        row("table", 0, nullptr, "");
+        row("--version", 0, "saiskuko " SAISKUKO_VERSION_STR "\n", "");
+        // Bad input: 2; a valid query without result: 1.
+        row("freq LTE:1-2 1", 2, "", "LTE-FDD or LTE-TDD has no band \"1-2\"; bands: ");
+        row("freq LTE:1:2 1", 2, "", "has no band \"1:2\"");
+        row("freq|LTE:1 2|5010", 2, "", "has no band \"1 2\"");
+        row("freq GSM:900 1", 2, "",
             "it matches: GSM - P-GSM 900 [103], GSM - E-GSM 900 [104], GSM - R-GSM 900 [105], "
             "GSM - R-GSM 900 (China) [106]");
-        row("-q freq 238 1", 2, "no band has code 238");
-        row("-q|freq|LTE-FDD - band 1 (2100)|300", 2, "LTE-FDD has no band \"band 1 (2100)\"");
-        row("-q search 100000", 1, "no band holds 100000 MHz");
-        row("-q freq LTE:1 600", 1, "channel 600 is not in");
-        row("-q channel LTE:1 2140.05", 1, "2140.05 MHz is not a channel centre");
-        row("-q table 2", 1, "mode 2 has no band table");
+        row("freq LTE:1 -3", 2, "", "channel \"-3\" must not be negative");
+        row("channel LTE:1 -5", 2, "", "frequency \"-5\" must be positive");
+        row("channel LTE:1 -inf", 2, "", "frequency \"-inf\" must be positive");
+        row("search inf", 2, "", "frequency \"inf\" is out of range");
+        row("freq 12345678901234567890123456789012345678901234567890 1", 2, "",
+            "no band has code 1234567890123456789012345678901234567890...;");
+        row("frequency|LTE:1", 2, "", "unknown command \"frequency\"");
+        row("freq LTE:1 300 --nearest", 2, "", "freq does not take --nearest");
+        row("search 100000", 1, "", "no band holds 100000 MHz");
+        row("channel LTE:1 2140.05", 1, "", "2140.05 MHz is not a channel centre");
+        row("table 2", 1, "", "mode 2 has no band table");
+        row("chart 1000 700", 2, "", "chart: LOW must be below HIGH");
+        row("chart 700 nan", 2, "", "frequency \"nan\" is out of range");
+        row("chart 700 1000 --mark 1200", 2, "", "mark \"1200\" lies outside the chart's window");
+        row("chart 700 1000 --tech XYZ", 2, "", "XYZ");
+        row("freq LTE:1 300 --mark 5", 2, "", "freq does not take --mark");
+        row("chart 0.1 0.5", 1, "", "no band has a record between 0.1 and 0.5 MHz");
     }
 
-    void failure()
+    void answers()
     {
         QFETCH(QString, arguments);
-        QFETCH(QString, message);
-        for (const char *json : {static_cast<const char *>(nullptr), "--json"}) {
-            const Run run = saiskuko(qPrintable(arguments), json);
-            QTEST(run.status, "status");
-            QVERIFY2(run.err.startsWith(QLatin1String("saiskuko: "))
-                         && run.err.count(QLatin1Char('\n')) == 1 && run.err.contains(message),
-                     qPrintable(run.err));
-            if (!json || run.status == 2)
-                QCOMPARE(run.out, QString());
-            else // a query without result still gives a JSON document
-                QVERIFY(QJsonDocument::fromJson(run.out.toUtf8()).isObject());
+        QFETCH(QString, out);
+        QFETCH(QString, err);
+        const Run run = saiskuko(arguments);
+        QTEST(run.status, "status");
+        if (!out.isNull())
+            QCOMPARE(run.out, out);
+        QVERIFY2(err.isEmpty() ? run.err.isEmpty() : run.err.contains(err), qPrintable(run.err));
+        QVERIFY(run.err.size() < 3000); // candidates listed, arguments cut
+    }
+
+    // The first, middle and last channel of every record, in each direction
+    // the band answers for, converts to a frequency and back.
+    void everyPrintedFrequencyConvertsBack()
+    {
+        QStringList bands, freqLines, expected;
+        for (int code = 0; code < 800; ++code)
+            bands << QStringLiteral("band %1").arg(code);
+        for (const QJsonObject &band : batchJson(bands)) {
+            const QJsonObject result = band[QLatin1String("result")].toObject();
+            const QString code =
+                QString::number(result[QLatin1String("band")][QLatin1String("code")].toInt());
+            const bool tdd =
+                result[QLatin1String("band")][QLatin1String("duplex")] == QLatin1String("TDD");
+            for (const QJsonValue &record : result[QLatin1String("records")].toArray()) {
+                const QJsonArray range = record[QLatin1String("channels")].toArray();
+                const int first = range[0].toInt(), last = range[1].toInt();
+                const QString own = record[QLatin1String("direction")].toString();
+                for (const QString &direction :
+                     tdd ? QStringList{QStringLiteral("uplink"), QStringLiteral("downlink")}
+                         : QStringList{own}) {
+                    for (int channel : {first, first + (last - first) / 2, last}) {
+                        freqLines << QStringLiteral("freq %1 %2 --%3")
+                                         .arg(code)
+                                         .arg(channel)
+                                         .arg(direction.left(1) == QLatin1String("u")
+                                                  ? QLatin1String("ul")
+                                                  : QLatin1String("dl"));
+                        expected << QStringLiteral("%1 %2 %3").arg(code, direction).arg(channel);
+                    }
+                }
+            }
+        }
+        QVERIFY(expected.size() > 1000);
+        QStringList channelLines;
+        const QList<QJsonObject> freqs = batchJson(freqLines);
+        QCOMPARE(freqs.size(), expected.size());
+        for (int i = 0; i < freqs.size(); ++i) {
+            const QStringList parts = expected[i].split(QLatin1Char(' '));
+            const QJsonValue mhz =
+                freqs[i][QLatin1String("result")][QLatin1String("results")][0][parts[1]];
+            QVERIFY2(mhz.isDouble(), qPrintable(freqLines[i]));
+            // The text form, as freq prints it; --preferred where two channels share a centre.
+            channelLines << QStringLiteral("channel %1 %2 %3 --preferred %4")
+                                .arg(parts[0], QString::number(mhz.toDouble(), 'f', 6),
+                                     freqLines[i].section(QLatin1Char(' '), 3), parts[2]);
+        }
+        const QList<QJsonObject> channels = batchJson(channelLines);
+        for (int i = 0; i < channels.size(); ++i) {
+            const QStringList parts = expected[i].split(QLatin1Char(' '));
+            QVERIFY2(channels[i][QLatin1String("result")][QLatin1String("results")][0][parts[1]]
+                             [QLatin1String("channel")]
+                                 .toInt(-1)
+                         == parts[2].toInt(),
+                     qPrintable(channelLines[i]));
         }
     }
 
-    void libraryOutputGoesToStderr()
+    void duplexOfBands()
     {
-        const Run loud = saiskuko("channel LTE:1 2140.05");
-        QCOMPARE(loud.out, QString());
-        QVERIFY2(loud.err.contains(QLatin1String("Version :  " SAISKUKO_VERSION_STR))
-                     && loud.err.contains(
-                         QLatin1String("GetChNumFromFreq Not supported value : 2140.05")),
-                 qPrintable(loud.err));
-        QCOMPARE(saiskuko("--quiet channel LTE:1 2140.05").err.count(QLatin1Char('\n')), 1);
+        const QList<std::pair<const char *, const char *>> bands{
+            {"NR:n1", "FDD"},    {"NR:n34", "TDD"},   {"NR:n41", "TDD"},     {"NR:n75", "SDL"},
+            {"NR:n78", "TDD"},   {"NR:n80", "SUL"},   {"TDD:40", "TDD"},     {"TDS:0", "TDD"},
+            {"WIMAX:r1", "TDD"}, {"WIMAX:r6", "FDD"}, {"FDD:global", "FDD"}, {"GSM:850", "FDD"},
+            {"NR:n257", "TDD"},  {"LTE:29", "SDL"}};
+        QStringList lines, expected, duplex;
+        for (const auto &band : bands) {
+            lines << QLatin1String("band ") + QLatin1String(band.first);
+            expected << QLatin1String(band.second);
+        }
+        for (const QJsonObject &document : batchJson(lines))
+            duplex
+                << document[QLatin1String("result")][QLatin1String("band")][QLatin1String("duplex")]
+                       .toString();
+        QCOMPARE(duplex, expected);
     }
 
-    // The JSON answer carries what the text table shows, "-" as null.
-    void jsonCarriesTheTextValues()
+    // Every command answers in one JSON shape, errors too; numbers keep every digit.
+    void oneJsonShape()
     {
-        QStringList text, json;
-        for (const QString &line :
-             saiskuko("-q freq LTE:1 300 18300 599 600").out.split(QLatin1Char('\n')).mid(2))
-            text << line.split(QLatin1Char(' '), Qt::SkipEmptyParts);
-        const QByteArray answer = saiskuko("-q freq LTE:1 300 18300 599 600 --json").out.toUtf8();
-        for (const QJsonValue &result :
-             QJsonDocument::fromJson(answer)[QLatin1String("results")].toArray())
-            for (const char *key : {"channel", "uplink", "downlink"})
-                json << (result[QLatin1String(key)].isNull()
-                             ? QStringLiteral("-")
-                             : QString::number(result[QLatin1String(key)].toDouble(), 'g', 12));
-        QCOMPARE(json, text);
-        QCOMPARE(text.join(QLatin1Char(' ')),
-                 QStringLiteral("300 - 2140 18300 1950 - 599 - 2169.9 600 - -"));
+        const QList<QJsonObject> documents = batchJson(
+            {QStringLiteral("techs"), QStringLiteral("bands GSM"), QStringLiteral("band 201"),
+             QStringLiteral("freq WCDMA:1 10701"), QStringLiteral("channel LTE:1 2140"),
+             QStringLiteral("search 1950"), QStringLiteral("channels LTE:1 2140 2141"),
+             QStringLiteral("table 6"), QStringLiteral("which 1"), QStringLiteral("freq x 1"),
+             QStringLiteral("--version")});
+        QCOMPARE(documents.size(), 11);
+        for (const QJsonObject &document : documents)
+            QCOMPARE(document.keys(),
+                     QStringList({QStringLiteral("arguments"), QStringLiteral("command"),
+                                  QStringLiteral("notes"), QStringLiteral("result"),
+                                  QStringLiteral("status")}));
+        QVERIFY(saiskuko(QStringLiteral("--json freq WCDMA:1 10701"))
+                    .out.contains(QLatin1String("\"downlink\": 2140.2000000000003,")));
+        QCOMPARE(documents[9][QLatin1String("status")].toInt(), 2);
+    }
+
+    // Lines are answered one by one; a bad one is reported by number and sets the status.
+    void batchGoesOnPastBadLines()
+    {
+        const Run run = saiskuko(
+            QStringLiteral("batch"),
+            "freq LTE:1 300\nfreq LTE:1 x\n\n# note\nchannel LTE:1 2140.05\nwhich 1 --dl --ul\n");
+        QCOMPARE(run.status, 2);
+        QVERIFY(run.out.startsWith(QLatin1String("LTE-FDD - Band 1 (2100) [201]\n"))
+                && run.out.contains(QLatin1String("CHANNEL  CODE")));
+        QCOMPARE(
+            run.err,
+            QStringLiteral(
+                "saiskuko: line 2: channel \"x\" is not a whole number\nsaiskuko: line 5: 2140.05 "
+                "MHz is not a channel centre of LTE-FDD - Band 1 (2100) (try: --nearest)\n"));
+    }
+
+    void quietUnlessVerbose()
+    {
+        QCOMPARE(saiskuko(QStringLiteral("freq LTE:1 300")).err, QString());
+        QVERIFY(saiskuko(QStringLiteral("--verbose freq LTE:1 300"))
+                    .err.contains(QLatin1String("Version :  " SAISKUKO_VERSION_STR)));
+        QCOMPARE(saiskuko(QStringLiteral("-q freq LTE:1 300")).status, 0);
+    }
+
+    void failedWriteIsAnError()
+    {
+        if (!QFile::exists(QStringLiteral("/dev/full")))
+            QSKIP("no /dev/full");
+        QCOMPARE(saiskuko(QStringLiteral("freq LTE:1 300"), {}, QStringLiteral("/dev/full")).status,
+                 3);
+    }
+
+    // The man page and the completion name every command the help lists.
+    void pagesNameEveryCommand()
+    {
+        const QString help = saiskuko(QStringLiteral("--help")).out;
+        const QString commands =
+            help.section(QLatin1String("Commands:\n"), 1).section(QLatin1String("\n\n"), 0, 0);
+        const QString man = installed("man/man1/saiskuko.1");
+        const QString completion = installed("bash-completion/completions/saiskuko");
+        QVERIFY(commands.count(QLatin1Char('\n')) >= 9);
+        for (const QString &line : commands.split(QLatin1Char('\n'))) {
+            const QString name = line.section(QLatin1Char(' '), 2, 2);
+            QVERIFY2(man.contains(QLatin1String("\n  ") + name + QLatin1Char(' '))
+                         && completion.contains(QRegularExpression(QLatin1String("\\b") + name
+                                                                   + QLatin1String("\\b"))),
+                     qPrintable(name));
+        }
     }
 };
 

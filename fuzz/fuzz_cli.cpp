@@ -1,0 +1,57 @@
+// The program's argument handling in-process: argument vectors made from the input (one argument
+// per line), run through the same dispatcher as the installed program.
+#include "fuzzinput.h"
+
+#include "program.h"
+
+#include <QtCore/QJsonDocument>
+#include <QtCore/QTextStream>
+
+namespace {
+
+// Enough for every command's shape; more only repeats the scans.
+constexpr int kMostArguments = 8;
+
+// Options whose names hold an 'o' but write no file.
+const QStringList kSafeOptions{QStringLiteral("--json"), QStringLiteral("--verbose"),
+                               QStringLiteral("--version"), QStringLiteral("--completion")};
+
+} // namespace
+
+extern "C" int LLVMFuzzerInitialize(int *, char ***)
+{
+    fuzz::silence();
+    return 0;
+}
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
+{
+    const QString input = QString::fromUtf8(reinterpret_cast<const char *>(data), int(size));
+    QStringList arguments = input.split(QLatin1Char('\n'));
+    // batch reads standard input or a named file: not the program's arguments.
+    if (arguments.size() > kMostArguments || arguments.contains(QStringLiteral("batch")))
+        return 0;
+    // chart -o writes a file wherever it is told.
+    for (const QString &argument : arguments) {
+        if (argument.startsWith(QLatin1Char('-')) && argument.contains(QLatin1Char('o'))
+            && !kSafeOptions.contains(argument))
+            return 0;
+    }
+    arguments.prepend(QStringLiteral("saiskuko"));
+
+    QString outText, errText;
+    QTextStream out(&outText), err(&errText);
+    const int status = runProgram(arguments, out, err);
+    FUZZ_CHECK(status >= 0 && status <= 2);
+    // Bad input always says why; an answer always says something.
+    FUZZ_CHECK(status != 2 || !errText.isEmpty());
+    FUZZ_CHECK(status != 0 || !outText.isEmpty());
+    const bool json = arguments.contains(QStringLiteral("--json"));
+    const bool pages = arguments.contains(QStringLiteral("--help"))
+                       || arguments.contains(QStringLiteral("-h"))
+                       || arguments.contains(QStringLiteral("--man"))
+                       || arguments.contains(QStringLiteral("--completion"));
+    if (json && !pages && !outText.isEmpty())
+        FUZZ_CHECK(QJsonDocument::fromJson(outText.toUtf8()).isObject());
+    return 0;
+}

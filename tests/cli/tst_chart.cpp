@@ -1,0 +1,184 @@
+// The band-plan chart: its rows, bars, ticks and marks as data, and the SVG that shows them.
+
+#include "chartsvg.h"
+
+#include <QtCore/QXmlStreamReader>
+#include <QtTest/QtTest>
+
+namespace {
+
+QStringList rowLabels(const ChartLayout &layout)
+{
+    QStringList labels;
+    for (const ChartRow &row : layout.rows)
+        labels << row.label;
+    return labels;
+}
+
+// Every text box of the chart: none may cover another.
+QList<ChartBox> textBoxes(const ChartLayout &layout)
+{
+    QList<ChartBox> boxes;
+    for (const ChartTick &tick : layout.ticks)
+        boxes << tick.labelBox;
+    for (const ChartGroup &group : layout.groups)
+        boxes << group.labelBox;
+    for (const ChartRow &row : layout.rows)
+        boxes << row.labelBox;
+    for (const ChartMark &mark : layout.marks)
+        boxes << mark.labelBox;
+    return boxes;
+}
+
+ChartLayout chart(double low, double high, QList<int> techs = {}, QList<double> marks = {})
+{
+    ChartRequest request;
+    request.lowMHz = low;
+    request.highMHz = high;
+    request.techSlots = techs;
+    request.marksMHz = marks;
+    return layoutChart(request);
+}
+
+} // namespace
+
+class TestChart : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void ticks_data()
+    {
+        QTest::addColumn<double>("low");
+        QTest::addColumn<double>("high");
+        QTest::addColumn<QList<double>>("ticks");
+        QTest::newRow("5 MHz") << 3400.0 << 3405.0
+                               << QList<double>{3400, 3401, 3402, 3403, 3404, 3405};
+        QTest::newRow("odd edges") << 881.3 << 882.9 << QList<double>{881.4, 881.6, 881.8, 882,
+                                                                      882.2, 882.4, 882.6, 882.8};
+        QTest::newRow("300 MHz") << 700.0 << 1000.0
+                                 << QList<double>{700, 750, 800, 850, 900, 950, 1000};
+        QTest::newRow("6 GHz") << 0.0 << 6000.0
+                               << QList<double>{0, 1000, 2000, 3000, 4000, 5000, 6000};
+        QTest::newRow("100 GHz") << 0.0 << 100000.0
+                                 << QList<double>{0, 20000, 40000, 60000, 80000, 100000};
+    }
+    void ticks()
+    {
+        QFETCH(double, low);
+        QFETCH(double, high);
+        QFETCH(QList<double>, ticks);
+        const QList<double> got = chartTicks(low, high);
+        QCOMPARE(got.size(), ticks.size());
+        for (int i = 0; i < got.size(); ++i)
+            QVERIFY2(qFuzzyCompare(got[i], ticks[i]), qPrintable(QString::number(got[i])));
+    }
+
+    // Which bands, in which order and with which kinds of bar: grouped by
+    // technology in slot order, "Band Global" and placeholders left out, the
+    // two links of a time-division band drawn once.
+    void rows_data()
+    {
+        QTest::addColumn<double>("low");
+        QTest::addColumn<double>("high");
+        QTest::addColumn<QList<int>>("techs");
+        QTest::addColumn<QString>("rows");
+        QTest::addColumn<QString>("kinds"); // per row: U, D, T per bar
+        // P-GSM's uplink starts at 890: touching the window's edge is not in it.
+        QTest::newRow("GSM 880-890")
+            << 880.0 << 890.0 << QList<int>{SlotGsm}
+            << "GSM 850 [102]|E-GSM 900 [104]|R-GSM 900 [105]|R-GSM 900 (China) [106]"
+            << "D|U|U|U";
+        QTest::newRow("LTE-TDD 40")
+            << 2310.0 << 2390.0 << QList<int>{SlotLteTdd} << "Band 40 (2300) [308]"
+            << "T";
+        QTest::newRow("n78 and n77") << 3400.0 << 3405.0 << QList<int>{SlotNr}
+                                     << "Band n77 (TD 3700) [723]|Band n78 (TD 3500) [724]"
+                                     << "T|T";
+    }
+    void rows()
+    {
+        QFETCH(double, low);
+        QFETCH(double, high);
+        QFETCH(QList<int>, techs);
+        QFETCH(QString, rows);
+        QFETCH(QString, kinds);
+        const ChartLayout layout = chart(low, high, techs);
+        QStringList gotKinds;
+        for (const ChartRow &row : layout.rows) {
+            QString k;
+            for (const ChartBar &bar : row.bars)
+                k += QLatin1Char("UDT"[int(bar.kind)]);
+            gotKinds << k;
+        }
+        QCOMPARE(rowLabels(layout).join(QLatin1Char('|')), rows);
+        QCOMPARE(gotKinds.join(QLatin1Char('|')), kinds);
+    }
+
+    // The whole plan: every real record of every band but the global ones is
+    // drawn, inside the plot and at its edges' places, and no text covers
+    // another.
+    void wholePlan()
+    {
+        const ChartLayout layout = chart(0, 100000, {}, {881.5, 882, 3500});
+        QList<int> codes;
+        for (const ChartRow &row : layout.rows) {
+            codes << row.band.code();
+            QVERIFY(!isGlobalBandName(row.band.bandName()));
+            QVERIFY(row.labelBox.right() < layout.plot.x);
+            for (const ChartBar &bar : row.bars) {
+                QVERIFY(bar.box.x >= layout.plot.x && bar.box.right() <= layout.plot.right() + 1);
+                QCOMPARE(bar.box.x, layout.xOf(bar.lowMHz));
+                QVERIFY(!bar.title.isEmpty());
+            }
+        }
+        for (int t : techSlots())
+            for (int b = 0; b < store().Technologies[t].NumBand; ++b) {
+                const ChBand &band = store().Technologies[t].Bands[b];
+                const bool real = std::any_of(band.SubBands, band.SubBands + recordCount(band),
+                                              [](const stSubBand &r) { return !isPlaceholder(r); });
+                QCOMPARE(codes.contains(100 * t + b), real && !isGlobalBandName(band.BandName));
+            }
+        const QList<ChartBox> boxes = textBoxes(layout);
+        for (int i = 0; i < boxes.size(); ++i)
+            for (int j = i + 1; j < boxes.size(); ++j)
+                QVERIFY2(!boxes[i].overlaps(boxes[j]),
+                         qPrintable(QString::number(i) + QLatin1Char('/') + QString::number(j)));
+        QVERIFY(layout.legend.y >= layout.plot.bottom());
+    }
+
+    void markListsTheSearchHits()
+    {
+        const ChartLayout layout = chart(700, 1000, {SlotLteFdd}, {881.5});
+        QCOMPARE(layout.marks.size(), 1);
+        const QStringList lines = layout.marks[0].lines;
+        QCOMPARE(lines.first(), QStringLiteral("881.5 MHz"));
+        QVERIFY(lines.contains(QStringLiteral("LTE-FDD Band 5 (850) DL ch 2525")));
+        for (const QString &line : lines.mid(1))
+            QVERIFY2(line.startsWith(QLatin1String("LTE-FDD ")), qPrintable(line));
+        QVERIFY(layout.marks[0].labelBox.bottom() <= layout.plot.y);
+    }
+
+    void noBandInWindow() { QVERIFY(chart(0.5, 0.9).rows.isEmpty()); }
+
+    // Well-formed, and one hover title per bar.
+    void svg()
+    {
+        const ChartLayout layout = chart(700, 1000, {}, {881.5});
+        QXmlStreamReader reader(chartSvg(layout));
+        int titles = 0;
+        QString parent;
+        while (!reader.atEnd()) {
+            if (reader.readNext() != QXmlStreamReader::StartElement)
+                continue;
+            if (reader.name() == QLatin1String("title"))
+                titles += parent == QLatin1String("rect");
+            parent = reader.name().toString();
+        }
+        QVERIFY2(!reader.hasError(), qPrintable(reader.errorString()));
+        QCOMPARE(titles, layout.barCount());
+    }
+};
+
+QTEST_GUILESS_MAIN(TestChart)
+#include "tst_chart.moc"

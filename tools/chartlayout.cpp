@@ -1,0 +1,283 @@
+// The chart's content and geometry: rows of bands, bars of records, ticks, marks and legend.
+#include "chartlayout.h"
+
+#include "lookup.h"
+#include "output.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+constexpr double kFontSize = 11;
+constexpr double kCharWidth = 0.6; // of the font size, for a monospace font
+constexpr double kLineHeight = 15; // one text line, one band row
+constexpr double kMargin = 12;
+constexpr double kGap = 6; // between a label and what it labels
+constexpr double kPlotWidth = 960;
+constexpr double kBarHeight = 10;
+constexpr double kLegendSwatch = 14;
+
+// A TDD band's links share one frequency range: one kind of bar for both.
+BarKind barKindOf(const BandRef &band, const stSubBand &record)
+{
+    if (band.duplex() == Duplex::Tdd)
+        return BarKind::TimeDivision;
+    return record.Link == 1 ? BarKind::Uplink : BarKind::Downlink;
+}
+
+QString directionText(BarKind kind)
+{
+    switch (kind) {
+    case BarKind::Uplink:
+        return QStringLiteral("uplink");
+    case BarKind::Downlink:
+        return QStringLiteral("downlink");
+    case BarKind::TimeDivision:
+        break;
+    }
+    return QStringLiteral("uplink and downlink (time-division)");
+}
+
+QString barTitle(const BandRef &band, BarKind kind, const stSubBand &record)
+{
+    return band.techName() + QLatin1Char('\n') + band.bandName()
+           + QStringLiteral(" [%1]").arg(band.code()) + QLatin1Char('\n') + directionText(kind)
+           + QLatin1Char('\n')
+           + QStringLiteral("channels %1-%2").arg(record.StartChannelNo).arg(record.StopChannelNo)
+           + QLatin1Char('\n') + formatMHz(record.StartFreq) + QLatin1Char('-')
+           + formatMHz(record.StopFreq) + QStringLiteral(" MHz");
+}
+
+// Whether a record shows in the window: a real record whose edges overlap it
+// (a record of zero width counts where it lies inside).
+bool overlapsWindow(const stSubBand &record, double low, double high)
+{
+    if (isPlaceholder(record) || !std::isfinite(record.StartFreq)
+        || !std::isfinite(record.StopFreq))
+        return false;
+    const double from = std::max(std::min(record.StartFreq, record.StopFreq), low);
+    const double to = std::min(std::max(record.StartFreq, record.StopFreq), high);
+    return from < to || (record.StartFreq == record.StopFreq && from == to);
+}
+
+bool sameBar(const ChartBar &bar, BarKind kind, const stSubBand &record)
+{
+    return bar.kind == kind && bar.lowMHz == record.StartFreq && bar.highMHz == record.StopFreq;
+}
+
+QList<ChartBar> barsOf(const BandRef &band, double low, double high)
+{
+    QList<ChartBar> bars;
+    const ChBand &data = band.data();
+    for (int i = 0; i < recordCount(data); ++i) {
+        const stSubBand &r = data.SubBands[i];
+        if (!overlapsWindow(r, low, high))
+            continue;
+        const BarKind kind = barKindOf(band, r);
+        // Both links of a time-division band name the same channels: one bar.
+        const bool drawn = std::any_of(bars.begin(), bars.end(),
+                                       [&](const ChartBar &b) { return sameBar(b, kind, r); });
+        if (drawn)
+            continue;
+        ChartBar bar;
+        bar.kind = kind;
+        bar.lowMHz = r.StartFreq;
+        bar.highMHz = r.StopFreq;
+        bar.title = barTitle(band, kind, r);
+        bars.append(bar);
+    }
+    return bars;
+}
+
+QString tickLabel(double mhz, double step)
+{
+    const int decimals = step >= 1 ? 0 : int(std::ceil(-std::log10(step) - 1e-9));
+    return QString::number(mhz, 'f', decimals);
+}
+
+// The hits of the frequency search at a mark, as the search command lists
+// them, of the charted technologies.
+QStringList markLines(double mhz, const QList<int> &techSlots)
+{
+    QStringList lines{formatMHz(mhz) + QStringLiteral(" MHz")};
+    for (const SearchHit &hit : searchHits(mhz)) {
+        if (techSlots.isEmpty() || techSlots.contains(hit.band.tech))
+            lines << hit.band.techName() + QLatin1Char(' ') + hit.band.bandName() + QLatin1Char(' ')
+                         + linkShort(hit.link) + QStringLiteral(" ch ")
+                         + QString::number(hit.channel);
+    }
+    return lines;
+}
+
+double widestText(const QStringList &lines)
+{
+    double widest = 0;
+    for (const QString &line : lines)
+        widest = std::max(widest, chartTextWidth(line, kFontSize));
+    return widest;
+}
+
+// Mark labels sit above the plot, beside their line; a label that would run
+// into one placed before it moves down below that one.
+void placeMarkLabels(QList<ChartMark> *marks, double top, double width)
+{
+    QList<ChartBox> placed;
+    for (ChartMark &mark : *marks) {
+        ChartBox box;
+        box.width = widestText(mark.lines);
+        box.height = kLineHeight * mark.lines.size();
+        box.x = mark.x + kGap;
+        if (box.right() > width - kMargin)
+            box.x = mark.x - kGap - box.width;
+        box.y = top;
+        for (bool moved = true; moved;) {
+            moved = false;
+            for (const ChartBox &other : placed) {
+                if (box.overlaps(other)) {
+                    box.y = other.bottom() + kGap;
+                    moved = true;
+                }
+            }
+        }
+        mark.labelBox = box;
+        placed.append(box);
+    }
+}
+
+} // namespace
+
+double chartTextWidth(const QString &text, double fontSize)
+{
+    return text.size() * fontSize * kCharWidth;
+}
+
+double ChartLayout::xOf(double mhz) const
+{
+    return plot.x + (mhz - lowMHz) / (highMHz - lowMHz) * plot.width;
+}
+
+int ChartLayout::barCount() const
+{
+    int n = 0;
+    for (const ChartRow &row : rows)
+        n += row.bars.size();
+    return n;
+}
+
+QList<double> chartTicks(double lowMHz, double highMHz)
+{
+    const double raw = (highMHz - lowMHz) / 8;
+    const double magnitude = std::pow(10.0, std::floor(std::log10(raw)));
+    double step = magnitude;
+    for (double factor : {1.0, 2.0, 5.0, 10.0}) {
+        step = factor * magnitude;
+        if (step >= raw * (1 - 1e-9)) // 1.6 / 8 is a hair above 0.2
+            break;
+    }
+    QList<double> ticks;
+    // Multiples of the step, so that the values print round; bounded, for a
+    // window too narrow for its magnitude to step through.
+    const double first = std::ceil(lowMHz / step);
+    for (int i = 0; i < 16 && (first + i) * step <= highMHz; ++i)
+        ticks << (first + i) * step;
+    return ticks;
+}
+
+ChartLayout layoutChart(const ChartRequest &request)
+{
+    ChartLayout layout;
+    layout.lowMHz = request.lowMHz;
+    layout.highMHz = request.highMHz;
+    layout.fontSize = kFontSize;
+    layout.lineHeight = kLineHeight;
+
+    // Rows first: the label column is as wide as the widest label.
+    double labelWidth = 0;
+    for (int t : techSlots()) {
+        if (!request.techSlots.isEmpty() && !request.techSlots.contains(t))
+            continue;
+        ChartGroup group;
+        group.tech = t;
+        group.label = techName(t);
+        for (int b = 0; b < store().Technologies[t].NumBand; ++b) {
+            ChartRow row;
+            row.band = BandRef{t, b};
+            if (isGlobalBandName(row.band.bandName()))
+                continue;
+            row.bars = barsOf(row.band, request.lowMHz, request.highMHz);
+            if (row.bars.isEmpty())
+                continue;
+            if (group.tech >= 0) {
+                layout.groups.append(group);
+                labelWidth = std::max(labelWidth, chartTextWidth(group.label, kFontSize));
+                group.tech = -1;
+            }
+            row.label = row.band.bandName() + QStringLiteral(" [%1]").arg(row.band.code());
+            labelWidth = std::max(labelWidth, chartTextWidth(row.label, kFontSize));
+            layout.rows.append(row);
+        }
+    }
+    if (layout.rows.isEmpty())
+        return layout;
+
+    layout.plot.x = kMargin + labelWidth + kGap;
+    layout.plot.width = kPlotWidth;
+    layout.width = layout.plot.right() + kMargin + kGap;
+
+    // Marks and their labels above the axis.
+    for (double mhz : request.marksMHz) {
+        ChartMark mark;
+        mark.mhz = mhz;
+        mark.x = layout.xOf(mhz);
+        mark.lines = markLines(mhz, request.techSlots);
+        layout.marks.append(mark);
+    }
+    std::sort(layout.marks.begin(), layout.marks.end(),
+              [](const ChartMark &a, const ChartMark &b) { return a.mhz < b.mhz; });
+    placeMarkLabels(&layout.marks, kMargin, layout.width);
+    double y = kMargin;
+    for (const ChartMark &mark : layout.marks)
+        y = std::max(y, mark.labelBox.bottom() + kGap);
+
+    // The axis: tick labels, then the rows.
+    const QList<double> values = chartTicks(request.lowMHz, request.highMHz);
+    const double step = values.size() > 1 ? values[1] - values[0] : 1;
+    for (double v : values) {
+        ChartTick tick;
+        tick.mhz = v;
+        tick.x = layout.xOf(v);
+        tick.label = tickLabel(v, step);
+        const double w = chartTextWidth(tick.label, kFontSize);
+        tick.labelBox = ChartBox{tick.x - w / 2, y, w, kLineHeight};
+        layout.ticks.append(tick);
+    }
+    y += kLineHeight + kGap;
+    layout.plot.y = y;
+
+    int group = 0;
+    for (ChartRow &row : layout.rows) {
+        if (group < layout.groups.size() && layout.groups[group].tech == row.band.tech) {
+            ChartGroup &g = layout.groups[group++];
+            g.labelBox = ChartBox{kMargin, y, chartTextWidth(g.label, kFontSize), kLineHeight};
+            y += kLineHeight;
+        }
+        row.labelBox = ChartBox{kMargin, y, chartTextWidth(row.label, kFontSize), kLineHeight};
+        for (ChartBar &bar : row.bars) {
+            const double from =
+                layout.xOf(std::max(std::min(bar.lowMHz, bar.highMHz), layout.lowMHz));
+            const double to =
+                layout.xOf(std::min(std::max(bar.lowMHz, bar.highMHz), layout.highMHz));
+            // A record narrower than a pixel still shows.
+            bar.box = ChartBox{from, y + (kLineHeight - kBarHeight) / 2, std::max(to - from, 1.0),
+                               kBarHeight};
+        }
+        y += kLineHeight;
+    }
+    layout.plot.height = y - layout.plot.y;
+
+    y += kGap;
+    layout.legend = ChartBox{layout.plot.x, y, 0, kLegendSwatch};
+    layout.height = layout.legend.bottom() + kMargin;
+    return layout;
+}

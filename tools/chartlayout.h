@@ -1,0 +1,104 @@
+#ifndef SAISKUKO_TOOLS_CHARTLAYOUT_H
+#define SAISKUKO_TOOLS_CHARTLAYOUT_H
+
+#include "bandname.h"
+
+#include <QtCore/QList>
+#include <QtCore/QString>
+#include <QtCore/QStringList>
+
+// What the chart command draws, computed apart from the SVG that shows it so
+// that the picture's content is tested as data. Positions are in SVG pixels.
+
+enum class BarKind { Uplink, Downlink, TimeDivision };
+
+struct ChartRequest
+{
+    double lowMHz = 0;
+    double highMHz = 0;
+    QList<int> techSlots; // empty: every technology
+    QList<double> marksMHz;
+};
+
+struct ChartBox
+{
+    double x = 0, y = 0, width = 0, height = 0;
+
+    double right() const { return x + width; }
+    double bottom() const { return y + height; }
+    bool overlaps(const ChartBox &o) const
+    {
+        return x < o.right() && o.x < right() && y < o.bottom() && o.y < bottom();
+    }
+};
+
+// One record (or the records of both links of a time-division band that
+// share their channels) between the window's edges.
+struct ChartBar
+{
+    BarKind kind = BarKind::Downlink;
+    double lowMHz = 0, highMHz = 0; // the record's stated edges
+    ChartBox box;                   // clipped to the window
+    QString title;                  // technology, band, direction, channels, edges
+};
+
+struct ChartRow
+{
+    BandRef band;
+    QString label; // band name and code
+    ChartBox labelBox;
+    QList<ChartBar> bars;
+};
+
+struct ChartGroup
+{
+    int tech = -1;
+    QString label;
+    ChartBox labelBox;
+};
+
+struct ChartTick
+{
+    double mhz = 0;
+    double x = 0;
+    QString label;
+    ChartBox labelBox;
+};
+
+struct ChartMark
+{
+    double mhz = 0;
+    double x = 0;
+    QStringList lines; // the frequency, then one line per search hit
+    ChartBox labelBox;
+};
+
+struct ChartLayout
+{
+    double lowMHz = 0, highMHz = 0;
+    double width = 0, height = 0;
+    double fontSize = 0, lineHeight = 0;
+    ChartBox plot; // where the bars are; ticks and marks span it
+    QList<ChartTick> ticks;
+    QList<ChartGroup> groups;
+    QList<ChartRow> rows;
+    QList<ChartMark> marks;
+    ChartBox legend;
+
+    double xOf(double mhz) const;
+    int barCount() const;
+};
+
+// Round tick values for a window: a step of 1, 2 or 5 times a power of ten,
+// about eight ticks however wide the window is.
+QList<double> chartTicks(double lowMHz, double highMHz);
+
+// The layout of every band with a real record overlapping the window, grouped
+// by technology in slot order. Empty rows when no band has one. The caller
+// checks the window (finite, low below high).
+ChartLayout layoutChart(const ChartRequest &request);
+
+// The width a text takes in the chart's monospace font.
+double chartTextWidth(const QString &text, double fontSize);
+
+#endif
