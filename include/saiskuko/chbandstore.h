@@ -572,8 +572,6 @@ private:
     int LookupTechSlot(const QString &tech) const;
     int LookupBandSlot(int techSlot, const QString &band) const;
     bool HasRoomFor(int techSlot, const QString &band) const;
-    // The band that a (lenient) pair of names selects.
-    const ChBand &BandOf(const QString &tech, const QString &band) const;
     // Strict lookup: the enumerator, or -1 after a warning naming the culprit.
     int StrictEnumerator(const QString &tech, const QString &band) const;
     // The names behind an enumerator, or false after a warning.

@@ -12,13 +12,121 @@
 
 #include <QtCore/QtGlobal>
 
-// The formula's traits when the record's frequencies are non-decreasing from
-// its first to its last channel; null otherwise.
-const FormulaTraits *monotonicTraits(const stSubBand &record);
+#include <cmath>
+#include <limits>
 
-// Where the formula puts freqMHz, clamped to the record's channels: a
-// starting point for a search, never an answer by itself.
-qint64 estimateChannel(const FormulaTraits &traits, const stSubBand &record, double freqMHz);
+// The formula's traits when the record's frequencies are non-decreasing from
+// its first to its last channel; null otherwise. Monotonic takes a known
+// formula (positive step, product rounded before a rounded addition), a
+// finite base, and an integer part that does not wrap anywhere in the
+// record's range.
+inline const FormulaTraits *monotonicTraits(const stSubBand &r)
+{
+    const FormulaTraits *traits = formulaTraits(r.FreqFunc);
+    if (!traits || !std::isfinite(r.BaseFreq))
+        return nullptr;
+    const qint64 start = r.StartChannelNo;
+    const qint64 stop = r.StopChannelNo;
+    qint64 low = 0;
+    qint64 high = 0;
+    switch (traits->kind) {
+    case FormulaKind::Offset:
+        low = start - traits->offset;
+        high = stop - traits->offset;
+        break;
+    case FormulaKind::Reference:
+        high = stop - start;
+        break;
+    case FormulaKind::Times5:
+        low = 5 * start;
+        high = 5 * stop;
+        break;
+    }
+    const bool fits =
+        low >= std::numeric_limits<qint32>::min() && high <= std::numeric_limits<qint32>::max();
+    return fits ? traits : nullptr;
+}
+
+// The channel a count of channels above the start (half a channel ahead)
+// falls on, clamped to the record's channels. Counting from the start lets a
+// truncation round: the conversion back to double that a rounding towards
+// the nearest would need lies on the path of every conversion query.
+inline qint64 roundedChannel(qint32 start, qint32 stop, double aboveStart)
+{
+    if (!(aboveStart >= 0.5)) // also NaN
+        return start;
+    if (!(aboveStart <= double(stop) - start + 0.5))
+        return stop;
+    return start + static_cast<qint64>(aboveStart);
+}
+
+// The channel from which the formula counts its steps.
+inline double channelOrigin(const FormulaTraits &traits, const stSubBand &r)
+{
+    return traits.kind == FormulaKind::Offset      ? traits.offset
+           : traits.kind == FormulaKind::Reference ? r.StartChannelNo
+                                                   : 0.0;
+}
+
+// Where the formula puts freqMHz, rounded to the nearest channel and clamped
+// to the record's channels: a starting point for a search, never an answer by
+// itself.
+inline qint64 estimateChannel(const FormulaTraits &traits, const stSubBand &r, double freqMHz)
+{
+    const double originAboveStart = channelOrigin(traits, r) - r.StartChannelNo + 0.5;
+    return roundedChannel(r.StartChannelNo, r.StopChannelNo,
+                          (freqMHz - r.BaseFreq) * traits.inverseStep + originAboveStart);
+}
+
+// True when the frequencies of any two of the record's channels differ by
+// more than two double epsilons (traits from monotonicTraits): then at most
+// one channel lies within an epsilon of any frequency.
+inline bool channelsSpacedApart(const FormulaTraits &traits, const stSubBand &record)
+{
+    return record.BaseFreq < traits.spacedBaseLimit && -record.BaseFreq < traits.spacedBaseLimit;
+}
+
+// What a search for one frequency needs to know of a record before it
+// starts, and the fields it was worked out from.
+struct RecordSearch
+{
+    ChFreqFunc func = nullptr;
+    double base = 0.0;
+    qint32 start = 0;
+    qint32 stop = -1;
+    // The record holds channels, grows monotonically and its channels lie
+    // spaced apart: a frequency can match its nearest channel alone.
+    bool spaced = false;
+    double inverseStep = 0.0;
+    double originAboveStart = 0.0;
+
+    static RecordSearch of(const stSubBand &r)
+    {
+        RecordSearch facts;
+        facts.func = r.FreqFunc;
+        facts.base = r.BaseFreq;
+        facts.start = r.StartChannelNo;
+        facts.stop = r.StopChannelNo;
+        const FormulaTraits *traits = monotonicTraits(r);
+        if (traits && r.StartChannelNo <= r.StopChannelNo && channelsSpacedApart(*traits, r)) {
+            facts.spaced = true;
+            facts.inverseStep = traits->inverseStep;
+            facts.originAboveStart = channelOrigin(*traits, r) - r.StartChannelNo + 0.5;
+        }
+        return facts;
+    }
+    // False once a field the facts depend on has changed.
+    bool describes(const stSubBand &r) const
+    {
+        return r.FreqFunc == func && r.BaseFreq == base && r.StartChannelNo == start
+               && r.StopChannelNo == stop;
+    }
+    // estimateChannel, for a spaced record.
+    qint64 nearestChannel(double freqMHz) const
+    {
+        return roundedChannel(start, stop, (freqMHz - base) * inverseStep + originAboveStart);
+    }
+};
 
 inline double freqAt(const stSubBand &record, qint64 channel)
 {

@@ -5,10 +5,7 @@
 #include "bandplan/formulatraits.h"
 #include "store/wrapping.h"
 
-#include <algorithm>
-#include <functional>
 #include <iterator>
-#include <vector>
 
 // Each formula takes the difference in 32-bit two's complement (channels far
 // outside a band wrap instead of overflowing), converts it to double,
@@ -47,27 +44,23 @@ SAISKUKO_FORMULAS(DEFINE_OFFSET, DEFINE_REF, DEFINE_TIMES5)
 namespace {
 
 #define TRAITS_OFFSET(stem, offset, step)                                                          \
-    {&ChBandStore::chstdGet##stem, FormulaKind::Offset, offset, step},
-#define TRAITS_REF(stem, step) {&ChBandStore::chstdGet##stem, FormulaKind::Reference, 0, step},
-#define TRAITS_TIMES5(stem) {&ChBandStore::chstdGet##stem, FormulaKind::Times5, 0, 5.0},
+    makeFormulaTraits(&ChBandStore::chstdGet##stem, FormulaKind::Offset, offset, step),
+#define TRAITS_REF(stem, step)                                                                     \
+    makeFormulaTraits(&ChBandStore::chstdGet##stem, FormulaKind::Reference, 0, step),
+#define TRAITS_TIMES5(stem)                                                                        \
+    makeFormulaTraits(&ChBandStore::chstdGet##stem, FormulaKind::Times5, 0, 5.0),
 
 const FormulaTraits kTraits[] = {SAISKUKO_FORMULAS(TRAITS_OFFSET, TRAITS_REF, TRAITS_TIMES5)};
 
 } // namespace
 
-const FormulaTraits *formulaTraits(ChFreqFunc func)
+TraitsByAddress::TraitsByAddress()
 {
-    // Sorted by address once, so that every search can ask cheaply.
-    static const std::vector<FormulaTraits> byAddress = [] {
-        std::vector<FormulaTraits> sorted(std::begin(kTraits), std::end(kTraits));
-        std::sort(sorted.begin(), sorted.end(), [](const FormulaTraits &a, const FormulaTraits &b) {
-            return std::less<ChFreqFunc>()(a.func, b.func);
-        });
-        return sorted;
-    }();
-    const auto it = std::lower_bound(byAddress.begin(), byAddress.end(), func,
-                                     [](const FormulaTraits &traits, ChFreqFunc f) {
-                                         return std::less<ChFreqFunc>()(traits.func, f);
-                                     });
-    return (it != byAddress.end() && it->func == func) ? &*it : nullptr;
+    static_assert(kSlots >= 4 * std::size(kTraits), "the table must stay mostly empty");
+    for (const FormulaTraits &traits : kTraits) {
+        quint32 i = slotOf(traits.func);
+        while (m_slots[i])
+            i = (i + 1) % kSlots;
+        m_slots[i] = &traits;
+    }
 }

@@ -3,6 +3,7 @@
 
 #include "bandplan/channelsearch.h"
 #include "store/diagnostics.h"
+#include "store/namelookup.h"
 #include "store/recordrules.h"
 #include "store/standardtext.h"
 
@@ -40,7 +41,7 @@ QList<int> ChBandStore::GetAvailableChannels(QString channelStandard, QString di
 {
     return answerForStandard(
         channelStandard, QList<int>(), [&](const QString &tech, const QString &band) {
-            const ChBand &b = BandOf(tech, band);
+            const ChBand &b = bandNamed(*this, tech, band);
             const int link = linkOfDirection(direction);
             QList<int> channels;
             // Only the band's first record of the direction is offered.

@@ -6,11 +6,15 @@
 
 #include <saiskuko/chband.h>
 
+#include "store/searchindex.h"
+
 #include <QtCore/QString>
 
 double freqIn(const ChBand &band, int link, int channel);
 bool channelExistsIn(const ChBand &band, int link, int channel);
-int chNumFromFreqIn(const ChBand &band, int link, double freqMHz, int preferred);
+// known: what the store keeps of the band's records for the search.
+int chNumFromFreqIn(const ChBand &band, KnownRecords known, int link, double freqMHz,
+                    int preferred);
 // bandText is the band name as the caller gave it; the time-division WiMAX
 // profiles are told by it.
 int offsetChUpDownIn(int techSlot, const ChBand &band, const QString &bandText, int channel);

@@ -34,8 +34,9 @@ int ChBandStore::GetOffsetChUpDown(int code, int /*link*/, int channel) const
 
 int ChBandStore::GetChNumFromFreq(int code, int link, double freqMHz, int preferred) const
 {
-    return AnswerForBand(code, -1, [&](int, const ChBand &b, const QString &) {
-        return chNumFromFreqIn(b, link, freqMHz, preferred);
+    return AnswerForBand(code, -1, [&](int t, const ChBand &b, const QString &) {
+        const KnownRecords known = SearchIndex::find(*this, t, int(&b - Technologies[t].Bands));
+        return chNumFromFreqIn(b, known, link, freqMHz, preferred);
     });
 }
 

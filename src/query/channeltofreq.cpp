@@ -3,6 +3,7 @@
 
 #include "query/bandqueries.h"
 #include "store/bandnamefacts.h"
+#include "store/namelookup.h"
 #include "store/recordrules.h"
 #include "store/standardtext.h"
 
@@ -29,7 +30,7 @@ bool channelExistsIn(const ChBand &b, int link, int channel)
 
 double ChBandStore::GetFreq(QString tech, QString band, int link, int channel) const
 {
-    return freqIn(BandOf(tech, band), link, channel);
+    return freqIn(bandNamed(*this, tech, band), link, channel);
 }
 
 double ChBandStore::GetFreq(QString standard, int link, int channel) const
@@ -46,7 +47,7 @@ double ChBandStore::GetFreq(QString standard, QString direction, int channel) co
 
 double ChBandStore::GetFreqNoLimit(QString tech, QString band, int link, int channel) const
 {
-    const ChBand &b = BandOf(tech, band);
+    const ChBand &b = bandNamed(*this, tech, band);
     for (int i = 0; i < recordCount(b); ++i) {
         if (servesLink(b.SubBands[i], link))
             return recordFreq(b.SubBands[i], channel);
@@ -56,12 +57,12 @@ double ChBandStore::GetFreqNoLimit(QString tech, QString band, int link, int cha
 
 bool ChBandStore::IsExistChannelNo(QString tech, QString band, int link, int channel) const
 {
-    return channelExistsIn(BandOf(tech, band), link, channel);
+    return channelExistsIn(bandNamed(*this, tech, band), link, channel);
 }
 
 int ChBandStore::GetStopChannelNo_InSample(QString tech, QString band, int channel, int link) const
 {
-    const ChBand &b = BandOf(tech, band);
+    const ChBand &b = bandNamed(*this, tech, band);
     const int n = recordCount(b);
     // A band's uplink and downlink records stand side by side: when record i
     // is of the other direction, its neighbour i+1 answers for the pair.

@@ -4,6 +4,7 @@
 #include "bandplan/channelsearch.h"
 #include "query/bandqueries.h"
 #include "store/diagnostics.h"
+#include "store/namelookup.h"
 #include "store/recordrules.h"
 #include "store/standardtext.h"
 #include "store/technologies.h"
@@ -42,8 +43,18 @@ struct ExactMatches
 
 // Appends the record's channels whose frequency lies within the double
 // epsilon (as an absolute number of MHz) of freqMHz.
-void collectExactMatches(const stSubBand &r, double freqMHz, ExactMatches *found)
+void collectExactMatches(const stSubBand &r, const RecordSearch &facts, double freqMHz,
+                         ExactMatches *found)
 {
+    if (facts.spaced && std::isfinite(freqMHz)) {
+        // A raster frequency is its nearest channel's, and then no other
+        // channel of the record can match.
+        const qint64 nearest = facts.nearestChannel(freqMHz);
+        if (std::abs(freqAt(r, nearest) - freqMHz) < kTolerance) {
+            found->add(static_cast<int>(nearest));
+            return;
+        }
+    }
     const qint64 stop = r.StopChannelNo;
     qint64 channel = r.StartChannelNo;
     const FormulaTraits *traits = monotonicTraits(r);
@@ -65,13 +76,15 @@ void collectExactMatches(const stSubBand &r, double freqMHz, ExactMatches *found
 
 } // namespace
 
-int chNumFromFreqIn(const ChBand &b, int link, double freqMHz, int preferred)
+int chNumFromFreqIn(const ChBand &b, KnownRecords known, int link, double freqMHz, int preferred)
 {
     ExactMatches found;
-    for (int i = 0; i < recordCount(b); ++i) {
+    RecordSearch scratch;
+    const int n = recordCount(b);
+    for (int i = 0; i < n; ++i) {
         const stSubBand &r = b.SubBands[i];
         if (servesLink(r, link) && r.StartFreq <= freqMHz && freqMHz <= r.StopFreq)
-            collectExactMatches(r, freqMHz, &found);
+            collectExactMatches(r, known.of(i, r, &scratch), freqMHz, &found);
     }
     if (found.count > 0)
         return found.contains(preferred) ? preferred : found.channels[0];
@@ -106,7 +119,10 @@ int offsetChUpDownIn(int t, const ChBand &b, const QString &bandText, int channe
 int ChBandStore::GetChNumFromFreq(QString tech, QString band, int link, double freqMHz,
                                   int preferred) const
 {
-    return chNumFromFreqIn(BandOf(tech, band), link, freqMHz, preferred);
+    const int t = techSlotNamed(*this, tech);
+    const int b = bandSlotNamed(*this, t, band);
+    return chNumFromFreqIn(Technologies[t].Bands[b], SearchIndex::find(*this, t, b), link, freqMHz,
+                           preferred);
 }
 
 int ChBandStore::GetChNumFromFreq(QString standard, int link, double freqMHz, int preferred) const
@@ -124,8 +140,8 @@ int ChBandStore::GetChNumFromFreq(QString standard, QString direction, double fr
 
 int ChBandStore::GetOffsetChUpDown(QString tech, QString band, int channel, int /*link*/) const
 {
-    const int t = LookupTechSlot(tech);
-    return offsetChUpDownIn(t, Technologies[t].Bands[LookupBandSlot(t, band)], band, channel);
+    const int t = techSlotNamed(*this, tech);
+    return offsetChUpDownIn(t, Technologies[t].Bands[bandSlotNamed(*this, t, band)], band, channel);
 }
 
 int ChBandStore::GetOffsetChUpDown(QString standard, int link, int channel) const

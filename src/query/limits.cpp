@@ -2,6 +2,7 @@
 #include <saiskuko/chbandstore.h>
 
 #include "query/bandqueries.h"
+#include "store/namelookup.h"
 #include "store/recordrules.h"
 #include "store/technologies.h"
 
@@ -36,7 +37,7 @@ double outermostEdge(const ChBand &b, int link, double stSubBand::*edge, Beats b
 
 double ChBandStore::GetStartFreq(QString tech, QString band) const
 {
-    return BandOf(tech, band).SubBands[0].StartFreq;
+    return bandNamed(*this, tech, band).SubBands[0].StartFreq;
 }
 
 double startFreqIn(const ChBand &b, int link)
@@ -51,12 +52,12 @@ double stopFreqIn(const ChBand &b, int link)
 
 double ChBandStore::GetStartFreq(QString tech, QString band, int link) const
 {
-    return startFreqIn(BandOf(tech, band), link);
+    return startFreqIn(bandNamed(*this, tech, band), link);
 }
 
 double ChBandStore::GetStopFreq(QString tech, QString band, int link) const
 {
-    return stopFreqIn(BandOf(tech, band), link);
+    return stopFreqIn(bandNamed(*this, tech, band), link);
 }
 
 int startChannelIn(const ChBand &b, int link)
@@ -102,22 +103,22 @@ int stopChannelIn(const ChBand &b, int link)
 
 int ChBandStore::GetStartChannelNo(QString tech, QString band, int link) const
 {
-    return startChannelIn(BandOf(tech, band), link);
+    return startChannelIn(bandNamed(*this, tech, band), link);
 }
 
 int ChBandStore::GetStopChannelNo(QString tech, QString band, int link) const
 {
-    return stopChannelIn(BandOf(tech, band), link);
+    return stopChannelIn(bandNamed(*this, tech, band), link);
 }
 
 int ChBandStore::GetNumSubBand(QString tech, QString band) const
 {
-    return BandOf(tech, band).NumSubBand;
+    return bandNamed(*this, tech, band).NumSubBand;
 }
 
 bool ChBandStore::IsUplinkOnly(QString tech, QString band) const
 {
-    return BandOf(tech, band).SubBands[0].UplinkOnly;
+    return bandNamed(*this, tech, band).SubBands[0].UplinkOnly;
 }
 
 double ChBandStore::GetDefaultIntBW(QString tech) const

@@ -2,7 +2,8 @@
 #include <saiskuko/chbandstore.h>
 
 #include "store/diagnostics.h"
-#include "store/nameindex.h"
+#include "store/namelookup.h"
+#include "store/searchindex.h"
 #include "store/technologies.h"
 
 namespace {
@@ -24,6 +25,8 @@ ChBandStore::ChBandStore(QObject *parent) : QObject(parent)
 {
     announceVersion();
 
+    NameIndex::createFor(this);
+    SearchIndex::createFor(this);
     NameIndex *const index = NameIndex::of(this);
     for (int slot = 0; slot < kNumTechSlots; ++slot) {
         TechIndexMap.insert(techName(slot), slot);
@@ -44,19 +47,12 @@ void ChBandStore::TestFunction()
 
 int ChBandStore::LookupTechSlot(const QString &tech) const
 {
-    const NameIndex *index = NameIndex::of(this);
-    const int slot = index ? index->tech(tech, 0) : TechIndexMap.value(tech, 0);
-    return (slot >= 0 && slot < MaxTechnologies) ? slot : 0;
+    return techSlotNamed(*this, tech);
 }
 
 int ChBandStore::LookupBandSlot(int techSlot, const QString &band) const
 {
-    if (techSlot < 0 || techSlot >= MaxTechnologies)
-        return 0;
-    const NameIndex *index = NameIndex::of(this);
-    const int slot =
-        index ? index->band(techSlot, band, 0) : Technologies[techSlot].BandIndexMap.value(band, 0);
-    return (slot >= 0 && slot < ChTechnology::MaxBands) ? slot : 0;
+    return bandSlotNamed(*this, techSlot, band);
 }
 
 bool ChBandStore::HasRoomFor(int techSlot, const QString &band) const
@@ -119,11 +115,7 @@ void ChBandStore::SetBandInfo(QString tech, QString band, int startChannelNo, in
     record.Link = link;
     record.FreqFunc = func;
     record.UplinkOnly = uplinkOnly;
+    if (SearchIndex *searches = SearchIndex::of(this))
+        searches->set(t, b, target.NumSubBand, record);
     ++target.NumSubBand;
-}
-
-const ChBand &ChBandStore::BandOf(const QString &tech, const QString &band) const
-{
-    const int t = LookupTechSlot(tech);
-    return Technologies[t].Bands[LookupBandSlot(t, band)];
 }

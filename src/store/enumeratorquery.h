@@ -8,20 +8,19 @@
 #include "store/bandnamefacts.h"
 
 // Splits a code into technology and band numbers. The remainder follows the
-// sign of the code, so negative codes never name a band.
+// sign of the code, so negative codes never name a band. The band is the
+// remainder of the code by 100 x tech, which for tech 0 is the code itself
+// and otherwise is always code - 100 x tech (the remainder by 100): no
+// division needed.
 inline void splitCode(int code, int *tech, int *band)
 {
-    if (code == 0) {
-        *tech = 0;
-        *band = 0;
-        return;
-    }
     *tech = code / 100;
-    *band = (*tech == 0) ? code : code % (100 * *tech);
+    *band = code - 100 * *tech;
 }
 
+// Out of line, so that the quick path of AnswerForBand needs no stack frame.
 template <typename Result, typename Query>
-Result ChBandStore::AnswerForEnumerator(int code, Result failure, Query query) const
+Q_NEVER_INLINE Result ChBandStore::AnswerForEnumerator(int code, Result failure, Query query) const
 {
     QString tech, band;
     return NamesOfEnumerator(code, &tech, &band) ? query(tech, band) : failure;

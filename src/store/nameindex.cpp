@@ -1,12 +1,13 @@
 // The name index of the global store.
 #include "store/nameindex.h"
 
-#include <saiskuko/chstd.h>
+NameIndex *NameIndex::s_global = nullptr;
 
-NameIndex *NameIndex::of(const ChBandStore *store)
+void NameIndex::createFor(const ChBandStore *store)
 {
-    // Built on first use, which is G_CHSTD's own construction, so it outlives
-    // the store it serves.
+    if (store != &G_CHSTD)
+        return;
+    // Built during G_CHSTD's own construction, so it is destroyed after it.
     static NameIndex global;
-    return store == &G_CHSTD ? &global : nullptr;
+    s_global = &global;
 }

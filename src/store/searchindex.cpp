@@ -1,0 +1,13 @@
+// The search index of the global store.
+#include "store/searchindex.h"
+
+SearchIndex *SearchIndex::s_global = nullptr;
+
+void SearchIndex::createFor(const ChBandStore *store)
+{
+    if (store != &G_CHSTD)
+        return;
+    // Built during G_CHSTD's own construction, so it is destroyed after it.
+    static SearchIndex global;
+    s_global = &global;
+}
