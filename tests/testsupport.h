@@ -32,7 +32,8 @@ inline QString str(const char *text)
 struct Num
 {
     QString text;
-    Num(int value) : text(QString::number(value)) {} // a bool too, as 0 or 1
+    Num(int value) : text(QString::number(value)) {}       // a bool too, as 0 or 1
+    Num(long long value) : text(QString::number(value)) {} // a qsizetype under Qt 6
     Num(double value)
     {
         for (int digits = 15; digits <= 17; ++digits)

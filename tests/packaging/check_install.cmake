@@ -18,12 +18,12 @@ run("install" ${CMAKE_COMMAND} --install ${BUILD_DIR} --prefix ${prefix} ${confi
 # Through the CMake package.
 set(build ${WORK_DIR}/cmake-consumer)
 set(configure_args -S ${CONSUMER_DIR} -B ${build} -G ${GENERATOR}
-    -DCMAKE_PREFIX_PATH=${prefix} -DCMAKE_CXX_COMPILER=${CXX})
+    -DCMAKE_PREFIX_PATH=${prefix} -DPACKAGE=${PACKAGE} -DCMAKE_CXX_COMPILER=${CXX})
 if(CONFIG)
   list(APPEND configure_args -DCMAKE_BUILD_TYPE=${CONFIG})
 endif()
-if(Qt5_DIR)
-  list(APPEND configure_args -DQt5_DIR=${Qt5_DIR})
+if(QT_DIR)
+  list(APPEND configure_args -D${QT}_DIR=${QT_DIR})
 endif()
 run("configure consumer" ${CMAKE_COMMAND} ${configure_args})
 run("build consumer" ${CMAKE_COMMAND} --build ${build} ${config_args})
@@ -33,10 +33,10 @@ run("run consumer" ${CMAKE_COMMAND} -E env LD_LIBRARY_PATH=${libdir} ${consumer}
 
 # Through pkg-config.
 if(NOT PKG_CONFIG)
-  message(FATAL_ERROR "pkg-config was not found; it is needed to check saiskuko.pc")
+  message(FATAL_ERROR "pkg-config was not found; it is needed to check ${PACKAGE}.pc")
 endif()
 set(ENV{PKG_CONFIG_PATH} "${libdir}/pkgconfig:$ENV{PKG_CONFIG_PATH}")
-run("pkg-config" ${PKG_CONFIG} --cflags --libs saiskuko)
+run("pkg-config" ${PKG_CONFIG} --cflags --libs ${PACKAGE})
 separate_arguments(flags UNIX_COMMAND "${OUTPUT}")
 # Qt is built position-independent and refuses to compile into anything else.
 run("compile with pkg-config" ${CXX} -std=c++17 -fPIC ${CONSUMER_DIR}/main.cpp ${flags}
