@@ -7,6 +7,8 @@
 #include <QtCore/QJsonDocument>
 #include <QtCore/QTextStream>
 
+#include <algorithm>
+
 namespace {
 
 // Enough for every command's shape; more only repeats the scans.
@@ -15,6 +17,18 @@ constexpr int kMostArguments = 8;
 // Options whose names hold an 'o' but write no file.
 const QStringList kSafeOptions{QStringLiteral("--json"), QStringLiteral("--verbose"),
                                QStringLiteral("--version"), QStringLiteral("--completion")};
+
+// --help (also as "--h": the short name written long), -h also among
+// compacted short options ("-qh"), --man and --completion print pages, not
+// JSON.
+bool asksForPage(const QString &argument)
+{
+    if (argument.startsWith(QLatin1String("--")))
+        return QStringList{QStringLiteral("--h"), QStringLiteral("--help"), QStringLiteral("--man"),
+                           QStringLiteral("--completion")}
+            .contains(argument);
+    return argument.startsWith(QLatin1Char('-')) && argument.contains(QLatin1Char('h'));
+}
 
 } // namespace
 
@@ -47,10 +61,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     FUZZ_CHECK(status != 2 || !errText.isEmpty());
     FUZZ_CHECK(status != 0 || !outText.isEmpty());
     const bool json = arguments.contains(QStringLiteral("--json"));
-    const bool pages = arguments.contains(QStringLiteral("--help"))
-                       || arguments.contains(QStringLiteral("-h"))
-                       || arguments.contains(QStringLiteral("--man"))
-                       || arguments.contains(QStringLiteral("--completion"));
+    const bool pages = std::any_of(arguments.begin(), arguments.end(), asksForPage);
     if (json && !pages && !outText.isEmpty())
         FUZZ_CHECK(QJsonDocument::fromJson(outText.toUtf8()).isObject());
     return 0;
