@@ -12,6 +12,7 @@
 
 #include <QtCore/QtGlobal>
 
+#include <cfloat>
 #include <cmath>
 #include <limits>
 
@@ -51,13 +52,20 @@ inline const FormulaTraits *monotonicTraits(const stSubBand &r)
 // falls on, clamped to the record's channels. Counting from the start lets a
 // truncation round: the conversion back to double that a rounding towards
 // the nearest would need lies on the path of every conversion query.
-inline qint64 roundedChannel(qint32 start, qint32 stop, double aboveStart)
+// lastAboveStart is the same count for the last channel: stop - start + 0.5.
+inline qint64 roundedChannelBelow(qint32 start, qint32 stop, double lastAboveStart,
+                                  double aboveStart)
 {
     if (!(aboveStart >= 0.5)) // also NaN
         return start;
-    if (!(aboveStart <= double(stop) - start + 0.5))
+    if (!(aboveStart <= lastAboveStart))
         return stop;
     return start + static_cast<qint64>(aboveStart);
+}
+
+inline qint64 roundedChannel(qint32 start, qint32 stop, double aboveStart)
+{
+    return roundedChannelBelow(start, stop, double(stop) - start + 0.5, aboveStart);
 }
 
 // The channel from which the formula counts its steps.
@@ -86,6 +94,19 @@ inline bool channelsSpacedApart(const FormulaTraits &traits, const stSubBand &re
     return record.BaseFreq < traits.spacedBaseLimit && -record.BaseFreq < traits.spacedBaseLimit;
 }
 
+// x rounded to a whole number, ties to even; beyond 2^51 in magnitude, a
+// number as large. Adding and taking away 1.5 x 2^52 rounds in two additions
+// where doubles are evaluated as doubles.
+inline double roundedToWhole(double x)
+{
+#if FLT_EVAL_METHOD == 0
+    constexpr double kShift = 6755399441055744.0;
+    return (x + kShift) - kShift;
+#else
+    return std::nearbyint(x);
+#endif
+}
+
 // What a search for one frequency needs to know of a record before it
 // starts, and the fields it was worked out from.
 struct RecordSearch
@@ -97,8 +118,13 @@ struct RecordSearch
     // The record holds channels, grows monotonically and its channels lie
     // spaced apart: a frequency can match its nearest channel alone.
     bool spaced = false;
+    // The formula as base + (channel - origin) x step, for a spaced record,
+    // and its first and last channel as steps from the origin.
     double inverseStep = 0.0;
-    double originAboveStart = 0.0;
+    double step = 0.0;
+    qint32 origin = 0;
+    double firstSteps = 0.0;
+    double lastSteps = 0.0;
 
     static RecordSearch of(const stSubBand &r)
     {
@@ -111,7 +137,10 @@ struct RecordSearch
         if (traits && r.StartChannelNo <= r.StopChannelNo && channelsSpacedApart(*traits, r)) {
             facts.spaced = true;
             facts.inverseStep = traits->inverseStep;
-            facts.originAboveStart = channelOrigin(*traits, r) - r.StartChannelNo + 0.5;
+            facts.step = traits->step;
+            facts.origin = static_cast<qint32>(channelOrigin(*traits, r));
+            facts.firstSteps = double(r.StartChannelNo) - facts.origin;
+            facts.lastSteps = double(r.StopChannelNo) - facts.origin;
         }
         return facts;
     }
@@ -121,11 +150,19 @@ struct RecordSearch
         return r.FreqFunc == func && r.BaseFreq == base && r.StartChannelNo == start
                && r.StopChannelNo == stop;
     }
-    // estimateChannel, for a spaced record.
-    qint64 nearestChannel(double freqMHz) const
+    // A spaced record's channel nearest to freqMHz, as steps from the origin
+    // (a whole number); a tie may go either way, since then neither channel
+    // matches.
+    double nearestSteps(double freqMHz) const
     {
-        return roundedChannel(start, stop, (freqMHz - base) * inverseStep + originAboveStart);
+        const double steps = roundedToWhole((freqMHz - base) * inverseStep);
+        return steps < firstSteps ? firstSteps : steps > lastSteps ? lastSteps : steps;
     }
+    qint64 channelAt(double steps) const { return origin + static_cast<qint64>(steps); }
+    // The formula's own number for the channel that many steps from the
+    // origin: no step count wraps within the record, and a Times5 formula's
+    // 5 x channel is exact in a double.
+    double freqAtSteps(double steps) const { return linearFreq(steps, base, step); }
 };
 
 inline double freqAt(const stSubBand &record, qint64 channel)

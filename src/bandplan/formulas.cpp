@@ -17,8 +17,7 @@ namespace {
 
 inline double linear(int channel, int offset, double base, double step)
 {
-    const double product = static_cast<double>(wrappedDifference(channel, offset)) * step;
-    return base + product;
+    return linearFreq(wrappedDifference(channel, offset), base, step);
 }
 
 } // namespace

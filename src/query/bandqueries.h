@@ -6,15 +6,10 @@
 
 #include <saiskuko/chband.h>
 
-#include "store/searchindex.h"
-
 #include <QtCore/QString>
 
 double freqIn(const ChBand &band, int link, int channel);
 bool channelExistsIn(const ChBand &band, int link, int channel);
-// known: what the store keeps of the band's records for the search.
-int chNumFromFreqIn(const ChBand &band, KnownRecords known, int link, double freqMHz,
-                    int preferred);
 // bandText is the band name as the caller gave it; the time-division WiMAX
 // profiles are told by it.
 int offsetChUpDownIn(int techSlot, const ChBand &band, const QString &bandText, int channel);

@@ -1,5 +1,6 @@
 // Queries by channel standard enumerator: each finds its band and asks what its name form asks.
 #include "query/bandqueries.h"
+#include "query/exactmatches.h"
 #include "store/enumeratorquery.h"
 #include "store/technologies.h"
 
@@ -34,7 +35,8 @@ int ChBandStore::GetOffsetChUpDown(int code, int /*link*/, int channel) const
 
 int ChBandStore::GetChNumFromFreq(int code, int link, double freqMHz, int preferred) const
 {
-    return AnswerForBand(code, -1, [&](int t, const ChBand &b, const QString &) {
+    // Captured by value: the quick path then keeps them in registers.
+    return AnswerForBand(code, -1, [=](int t, const ChBand &b, const QString &) {
         const KnownRecords known = SearchIndex::find(*this, t, int(&b - Technologies[t].Bands));
         return chNumFromFreqIn(b, known, link, freqMHz, preferred);
     });

@@ -3,6 +3,7 @@
 
 #include "bandplan/channelsearch.h"
 #include "query/bandqueries.h"
+#include "query/exactmatches.h"
 #include "store/diagnostics.h"
 #include "store/namelookup.h"
 #include "store/recordrules.h"
@@ -11,49 +12,16 @@
 #include "store/wrapping.h"
 
 #include <cmath>
-#include <limits>
 
 namespace {
 
-constexpr double kTolerance = std::numeric_limits<double>::epsilon();
-
-// Up to ten channels whose frequency equals the searched one, in the order a
-// walk would meet them; later matches can never be returned, so they are not
-// kept.
-struct ExactMatches
-{
-    static constexpr int Capacity = 10;
-    int channels[Capacity] = {-1, -1, -1, -1, -1, -1, -1, -1, -1, -1};
-    int count = 0;
-
-    void add(int channel)
-    {
-        if (count < Capacity)
-            channels[count++] = channel;
-    }
-    bool contains(int channel) const
-    {
-        for (int i = 0; i < count; ++i) {
-            if (channels[i] == channel)
-                return true;
-        }
-        return false;
-    }
-};
-
-// Appends the record's channels whose frequency lies within the double
-// epsilon (as an absolute number of MHz) of freqMHz.
+// Appends the record's matching channels.
 void collectExactMatches(const stSubBand &r, const RecordSearch &facts, double freqMHz,
                          ExactMatches *found)
 {
-    if (facts.spaced && std::isfinite(freqMHz)) {
-        // A raster frequency is its nearest channel's, and then no other
-        // channel of the record can match.
-        const qint64 nearest = facts.nearestChannel(freqMHz);
-        if (std::abs(freqAt(r, nearest) - freqMHz) < kTolerance) {
-            found->add(static_cast<int>(nearest));
-            return;
-        }
+    if (facts.spaced) {
+        addNearestMatch(facts, freqMHz, found);
+        return;
     }
     const qint64 stop = r.StopChannelNo;
     qint64 channel = r.StartChannelNo;
@@ -62,35 +30,41 @@ void collectExactMatches(const stSubBand &r, const RecordSearch &facts, double f
     if (fast) {
         // Differences grow with the channel: the matches form one run that
         // starts at the first difference above -epsilon.
-        channel = firstTrueNear(channel, stop, estimateChannel(*traits, r, freqMHz),
-                                [&](qint64 ch) { return freqAt(r, ch) - freqMHz > -kTolerance; });
+        channel = firstTrueNear(channel, stop, estimateChannel(*traits, r, freqMHz), [&](qint64 ch) {
+            return freqAt(r, ch) - freqMHz > -kExactMatchTolerance;
+        });
     }
     for (; channel <= stop && found->count < ExactMatches::Capacity; ++channel) {
         const double difference = freqAt(r, channel) - freqMHz;
-        if (std::abs(difference) < kTolerance)
+        if (std::abs(difference) < kExactMatchTolerance)
             found->add(static_cast<int>(channel));
-        else if (fast && difference >= kTolerance)
+        else if (fast && difference >= kExactMatchTolerance)
             break;
     }
 }
 
 } // namespace
 
-int chNumFromFreqIn(const ChBand &b, KnownRecords known, int link, double freqMHz, int preferred)
+int answerOf(const ExactMatches &found, double freqMHz)
 {
-    ExactMatches found;
+    if (found.count > 0)
+        return found.preferredFound ? found.preferred : found.first;
+    reportUnsupportedFrequency(freqMHz);
+    return -1;
+}
+
+int chNumFromFreqByRecords(const ChBand &b, KnownRecords known, int link, double freqMHz,
+                           int preferred)
+{
+    ExactMatches found(preferred);
     RecordSearch scratch;
     const int n = recordCount(b);
     for (int i = 0; i < n; ++i) {
         const stSubBand &r = b.SubBands[i];
-        if (servesLink(r, link) && r.StartFreq <= freqMHz && freqMHz <= r.StopFreq)
+        if (takesPartInSearch(r, link, freqMHz))
             collectExactMatches(r, known.of(i, r, &scratch), freqMHz, &found);
     }
-    if (found.count > 0)
-        return found.contains(preferred) ? preferred : found.channels[0];
-
-    reportUnsupportedFrequency(freqMHz);
-    return -1;
+    return answerOf(found, freqMHz);
 }
 
 int offsetChUpDownIn(int t, const ChBand &b, const QString &bandText, int channel)

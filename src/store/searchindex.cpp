@@ -2,6 +2,7 @@
 #include "store/searchindex.h"
 
 SearchIndex *SearchIndex::s_global = nullptr;
+KnownRecords SearchIndex::s_known[ChBandStore::MaxTechnologies][ChTechnology::MaxBands];
 
 void SearchIndex::createFor(const ChBandStore *store)
 {

@@ -10,6 +10,8 @@
 
 #include "bandplan/channelsearch.h"
 
+#include <algorithm>
+#include <iterator>
 #include <vector>
 
 // The facts of a band's first records; count 0 when the store keeps none.
@@ -38,27 +40,33 @@ public:
         return store == &G_CHSTD ? s_global : nullptr;
     }
 
+    // Queries after the library unloads find nothing kept.
+    ~SearchIndex()
+    {
+        for (auto &bands : s_known)
+            std::fill(std::begin(bands), std::end(bands), KnownRecords{});
+    }
+
     void set(int techSlot, int bandSlot, int record, const stSubBand &r)
     {
         std::vector<RecordSearch> &band = m_bands[techSlot][bandSlot];
         if (band.size() <= std::size_t(record))
             band.resize(std::size_t(record) + 1);
         band[std::size_t(record)] = RecordSearch::of(r);
+        s_known[techSlot][bandSlot] = {band.data(), int(band.size())};
     }
 
     static KnownRecords find(const ChBandStore &store, int techSlot, int bandSlot)
     {
-        const SearchIndex *index = of(&store);
-        if (!index)
-            return {};
-        const std::vector<RecordSearch> &band = index->m_bands[techSlot][bandSlot];
-        return {band.data(), int(band.size())};
+        return &store == &G_CHSTD ? s_known[techSlot][bandSlot] : KnownRecords{};
     }
 
 private:
     static SearchIndex *s_global; // set while the library loads
 
     std::vector<RecordSearch> m_bands[ChBandStore::MaxTechnologies][ChTechnology::MaxBands];
+    // The same, as the queries read them: a plain array, one load away.
+    static KnownRecords s_known[ChBandStore::MaxTechnologies][ChTechnology::MaxBands];
 };
 
 #endif
