@@ -49,6 +49,13 @@ const stSubBand &recordOf(const Case &c, int link)
 
 using Query = std::function<void(benchmark::State &)>;
 
+// What the by-value names cost the caller before any query begins: copying
+// two QStrings it holds (an atomic count each way) into a call.
+Q_NEVER_INLINE int passTwoNames(QString tech, QString band)
+{
+    return tech.size() + band.size();
+}
+
 void registerCase(const Case &c, int link)
 {
     const ChBandStore &s = G_CHSTD;
@@ -70,6 +77,10 @@ void registerCase(const Case &c, int link)
             benchmark::DoNotOptimize(
                 record->FreqFunc(channel, record->BaseFreq, record->StartChannelNo));
         }
+    });
+    add("PassNames/copy", [=](benchmark::State &st) {
+        for (auto _ : st)
+            benchmark::DoNotOptimize(passTwoNames(tech, band));
     });
 #define SAISKUKO_BENCH(name, expression)                                                           \
     add(name, [=, &s](benchmark::State &st) {                                                      \

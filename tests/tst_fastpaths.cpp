@@ -219,8 +219,9 @@ private slots:
     }
 
     // After the test above, both change G_CHSTD: a new band, a band name holding " - ", an
-    // empty band name, and a record under an unknown technology name (which
-    // renames slot 0), into both stores.
+    // empty band name, names as long as G_CHSTD's index holds and one code
+    // unit longer, one beyond Latin-1, and a record under an unknown
+    // technology name (which renames slot 0), into both stores.
     void afterCallersRegisterRecords()
     {
         const auto own = makeStore();
@@ -233,6 +234,11 @@ private slots:
                            &ChBandStore::chstdGetGSM_900, false);
             s->SetBandInfo(str("WCDMA"), QString(), 10, 20, 1.0, 1.0, 1.0, 1, 0,
                            &ChBandStore::chstdGetWCDMA_Common, true);
+            for (const QString &name :
+                 {str("Twenty-six code units long"), str("Twenty-six code units long!"),
+                  QString::fromUtf8("B\u00e4nd \u03a9 (1)")})
+                s->SetBandInfo(str("LTE-TDD"), name, 1, 9, 900.0, 901.0, 900.0, 1, 0,
+                               &ChBandStore::chstdGetLTEBand1Dn, false);
             s->SetBandInfo(str("Foo"), str("Band 0 (800)"), 2000, 2010, 800.0, 810.0, 800.0, 1, 0,
                            &ChBandStore::chstdGetCDMA_Band0_1, false);
         }

@@ -580,8 +580,8 @@ private:
     // failure after NamesOfEnumerator's warning.
     template <typename Result, typename Query>
     Result AnswerForEnumerator(int code, Result failure, Query query) const;
-    // The same, the query given the band itself: its technology slot, the
-    // band and its name as the text form gives it.
+    // The same, the query given the band itself: its technology and band
+    // slots, the band and its name as the text form gives it.
     template <typename Result, typename Query>
     Result AnswerForBand(int code, Result failure, Query query) const;
 };

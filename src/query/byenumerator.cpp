@@ -11,24 +11,26 @@
 int ChBandStore::GetNumSubBand(int code) const
 {
     return AnswerForBand(code, -1,
-                         [](int, const ChBand &b, const QString &) { return b.NumSubBand; });
+                         [](int, int, const ChBand &b, const QString &) { return b.NumSubBand; });
 }
 
 int ChBandStore::GetStartChannelNo(int code, int link) const
 {
-    return AnswerForBand(
-        code, -1, [&](int, const ChBand &b, const QString &) { return startChannelIn(b, link); });
+    return AnswerForBand(code, -1, [&](int, int, const ChBand &b, const QString &) {
+        return startChannelIn(b, link);
+    });
 }
 
 int ChBandStore::GetStopChannelNo(int code, int link) const
 {
-    return AnswerForBand(
-        code, -1, [&](int, const ChBand &b, const QString &) { return stopChannelIn(b, link); });
+    return AnswerForBand(code, -1, [&](int, int, const ChBand &b, const QString &) {
+        return stopChannelIn(b, link);
+    });
 }
 
 int ChBandStore::GetOffsetChUpDown(int code, int /*link*/, int channel) const
 {
-    return AnswerForBand(code, -1, [&](int t, const ChBand &b, const QString &name) {
+    return AnswerForBand(code, -1, [&](int t, int, const ChBand &b, const QString &name) {
         return offsetChUpDownIn(t, b, name, channel);
     });
 }
@@ -36,53 +38,55 @@ int ChBandStore::GetOffsetChUpDown(int code, int /*link*/, int channel) const
 int ChBandStore::GetChNumFromFreq(int code, int link, double freqMHz, int preferred) const
 {
     // Captured by value: the quick path then keeps them in registers.
-    return AnswerForBand(code, -1, [=](int t, const ChBand &b, const QString &) {
-        const KnownRecords known = SearchIndex::find(*this, t, int(&b - Technologies[t].Bands));
-        return chNumFromFreqIn(b, known, link, freqMHz, preferred);
+    return AnswerForBand(code, -1, [=](int t, int slot, const ChBand &b, const QString &) {
+        return chNumFromFreqIn(b, SearchIndex::find(*this, t, slot), link, freqMHz, preferred);
     });
 }
 
 double ChBandStore::GetDefaultIntBW(int code) const
 {
-    return AnswerForBand(code, -1.0,
-                         [&](int t, const ChBand &, const QString &) { return defaultIntBwHz(t); });
+    return AnswerForBand(
+        code, -1.0, [&](int t, int, const ChBand &, const QString &) { return defaultIntBwHz(t); });
 }
 
 bool ChBandStore::IsUplinkOnly(int code) const
 {
-    return AnswerForBand(code, true, [&](int, const ChBand &b, const QString &) {
+    return AnswerForBand(code, true, [&](int, int, const ChBand &b, const QString &) {
         return b.SubBands[0].UplinkOnly;
     });
 }
 
 double ChBandStore::GetStartFreq(int code) const
 {
-    return AnswerForBand(
-        code, -1.0, [](int, const ChBand &b, const QString &) { return b.SubBands[0].StartFreq; });
+    return AnswerForBand(code, -1.0, [](int, int, const ChBand &b, const QString &) {
+        return b.SubBands[0].StartFreq;
+    });
 }
 
 double ChBandStore::GetStartFreq(int code, int link) const
 {
-    return AnswerForBand(
-        code, -1.0, [&](int, const ChBand &b, const QString &) { return startFreqIn(b, link); });
+    return AnswerForBand(code, -1.0, [&](int, int, const ChBand &b, const QString &) {
+        return startFreqIn(b, link);
+    });
 }
 
 double ChBandStore::GetStopFreq(int code, int link) const
 {
-    return AnswerForBand(
-        code, -1.0, [&](int, const ChBand &b, const QString &) { return stopFreqIn(b, link); });
+    return AnswerForBand(code, -1.0, [&](int, int, const ChBand &b, const QString &) {
+        return stopFreqIn(b, link);
+    });
 }
 
 bool ChBandStore::IsExistChannelNo(int code, int link, int channel) const
 {
-    return AnswerForBand(code, false, [&](int, const ChBand &b, const QString &) {
+    return AnswerForBand(code, false, [&](int, int, const ChBand &b, const QString &) {
         return channelExistsIn(b, link, channel);
     });
 }
 
 double ChBandStore::GetFreq(int code, int link, int channel) const
 {
-    return AnswerForBand(code, -1.0, [&](int, const ChBand &b, const QString &) {
+    return AnswerForBand(code, -1.0, [&](int, int, const ChBand &b, const QString &) {
         return freqIn(b, link, channel);
     });
 }

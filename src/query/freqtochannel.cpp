@@ -30,9 +30,10 @@ void collectExactMatches(const stSubBand &r, const RecordSearch &facts, double f
     if (fast) {
         // Differences grow with the channel: the matches form one run that
         // starts at the first difference above -epsilon.
-        channel = firstTrueNear(channel, stop, estimateChannel(*traits, r, freqMHz), [&](qint64 ch) {
-            return freqAt(r, ch) - freqMHz > -kExactMatchTolerance;
-        });
+        channel =
+            firstTrueNear(channel, stop, estimateChannel(*traits, r, freqMHz), [&](qint64 ch) {
+                return freqAt(r, ch) - freqMHz > -kExactMatchTolerance;
+            });
     }
     for (; channel <= stop && found->count < ExactMatches::Capacity; ++channel) {
         const double difference = freqAt(r, channel) - freqMHz;

@@ -25,7 +25,6 @@ ChBandStore::ChBandStore(QObject *parent) : QObject(parent)
 {
     announceVersion();
 
-    NameIndex::createFor(this);
     SearchIndex::createFor(this);
     NameIndex *const index = NameIndex::of(this);
     for (int slot = 0; slot < kNumTechSlots; ++slot) {

@@ -38,10 +38,11 @@ Result ChBandStore::AnswerForBand(int code, Result failure, Query query) const
     splitCode(code, &t, &b);
     if (t >= 0 && t < MaxTechnologies && b >= 0 && b < Technologies[t].NumBand
         && ChBandNameFacts::isPlain(Technologies[t].Bands[b]))
-        return query(t, Technologies[t].Bands[b], Technologies[t].Bands[b].BandName);
+        return query(t, b, Technologies[t].Bands[b], Technologies[t].Bands[b].BandName);
     return AnswerForEnumerator(code, failure, [&](const QString &tech, const QString &band) {
-        const int slot = LookupTechSlot(tech);
-        return query(slot, Technologies[slot].Bands[LookupBandSlot(slot, band)], band);
+        const int techSlot = LookupTechSlot(tech);
+        const int bandSlot = LookupBandSlot(techSlot, band);
+        return query(techSlot, bandSlot, Technologies[techSlot].Bands[bandSlot], band);
     });
 }
 

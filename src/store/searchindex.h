@@ -30,7 +30,7 @@ struct KnownRecords
     }
 };
 
-class SearchIndex
+class Q_DECL_HIDDEN SearchIndex
 {
 public:
     // Called by every store's constructor: gives G_CHSTD its index.
