@@ -10,7 +10,6 @@
 
 #include <QtCore/QString>
 
-#include <algorithm>
 #include <cstring>
 
 template <int Capacity>
@@ -104,8 +103,14 @@ private:
         const std::size_t size = std::size_t(e.size) * sizeof(QChar);
         const char *x = reinterpret_cast<const char *>(e.chars);
         const char *y = reinterpret_cast<const char *>(name.constData());
-        if (size < 8)
-            return std::memcmp(x, y, size) == 0;
+        if (size < 8) { // at most three code units: no call for them
+            const QChar *chars = name.constData();
+            for (int i = 0; i < e.size; ++i) {
+                if (e.chars[i] != chars[i].unicode())
+                    return false;
+            }
+            return true;
+        }
         quint64 differences = 0;
         forEachWord(size, [&](std::size_t at) { differences |= load64(x + at) ^ load64(y + at); });
         return differences == 0;
