@@ -25,6 +25,7 @@ ChBandStore::ChBandStore(QObject *parent) : QObject(parent)
 {
     announceVersion();
 
+    NameIndex::createFor(this);
     SearchIndex::createFor(this);
     NameIndex *const index = NameIndex::of(this);
     for (int slot = 0; slot < kNumTechSlots; ++slot) {

@@ -1,5 +1,13 @@
 // The name index of the global store.
 #include "store/nameindex.h"
 
-// Zero-initialised: empty before the store fills it, and never destroyed.
-NameIndex NameIndex::s_global;
+NameIndex *NameIndex::s_global = nullptr;
+
+void NameIndex::createFor(const ChBandStore *store)
+{
+    if (store != &G_CHSTD)
+        return;
+    // Built during G_CHSTD's own construction, so it is destroyed after it.
+    static NameIndex global;
+    s_global = &global;
+}

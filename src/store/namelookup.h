@@ -11,8 +11,7 @@
 inline int techSlotNamed(const ChBandStore &store, const QString &tech)
 {
     const NameIndex *index = NameIndex::of(&store);
-    const int slot =
-        index ? index->tech(tech, store.TechIndexMap, 0) : store.TechIndexMap.value(tech, 0);
+    const int slot = index ? index->tech(tech, 0) : store.TechIndexMap.value(tech, 0);
     return (slot >= 0 && slot < ChBandStore::MaxTechnologies) ? slot : 0;
 }
 
@@ -21,8 +20,8 @@ inline int bandSlotNamed(const ChBandStore &store, int techSlot, const QString &
     if (techSlot < 0 || techSlot >= ChBandStore::MaxTechnologies)
         return 0;
     const NameIndex *index = NameIndex::of(&store);
-    const QMap<QString, int> &map = store.Technologies[techSlot].BandIndexMap;
-    const int slot = index ? index->band(techSlot, band, map, 0) : map.value(band, 0);
+    const int slot = index ? index->band(techSlot, band, 0)
+                           : store.Technologies[techSlot].BandIndexMap.value(band, 0);
     return (slot >= 0 && slot < ChTechnology::MaxBands) ? slot : 0;
 }
 
