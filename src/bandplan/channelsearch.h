@@ -52,20 +52,13 @@ inline const FormulaTraits *monotonicTraits(const stSubBand &r)
 // falls on, clamped to the record's channels. Counting from the start lets a
 // truncation round: the conversion back to double that a rounding towards
 // the nearest would need lies on the path of every conversion query.
-// lastAboveStart is the same count for the last channel: stop - start + 0.5.
-inline qint64 roundedChannelBelow(qint32 start, qint32 stop, double lastAboveStart,
-                                  double aboveStart)
+inline qint64 roundedChannel(qint32 start, qint32 stop, double aboveStart)
 {
     if (!(aboveStart >= 0.5)) // also NaN
         return start;
-    if (!(aboveStart <= lastAboveStart))
+    if (!(aboveStart <= double(stop) - start + 0.5))
         return stop;
     return start + static_cast<qint64>(aboveStart);
-}
-
-inline qint64 roundedChannel(qint32 start, qint32 stop, double aboveStart)
-{
-    return roundedChannelBelow(start, stop, double(stop) - start + 0.5, aboveStart);
 }
 
 // The channel from which the formula counts its steps.

@@ -11,18 +11,17 @@ enum class FormulaKind {
     Times5,    // base + 5 x channel in integers
 };
 
-// How one of the library's formulas is built: enough to know over which
-// channel range it grows monotonically (where its integer part does not wrap).
-// base + steps x step, the product rounded before the rounded addition: how
-// every linear formula computes, written once for the formulas and for the
-// searches that evaluate them inline.
-// steps is a whole number.
+// base + steps x step (steps a whole number), the product rounded before the
+// rounded addition: how every linear formula computes, written once for the
+// formulas and for the searches that evaluate them inline.
 inline double linearFreq(double steps, double base, double step)
 {
     const double product = steps * step;
     return base + product;
 }
 
+// How one of the library's formulas is built: enough to know over which
+// channel range it grows monotonically (where its integer part does not wrap).
 struct FormulaTraits
 {
     ChFreqFunc func;
