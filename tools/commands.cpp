@@ -670,3 +670,30 @@ const QList<Command> &commands()
     };
     return list;
 }
+
+const QList<ProgramOption> &programOptions()
+{
+    // clang-format off
+    static const QList<ProgramOption> list{
+        {"ul", nullptr, "only uplink (freq, channel, search, channels, which);\n"
+                        "default: every direction the band has", false, false},
+        {"dl", nullptr, "only downlink", false, false},
+        {"preferred", "N", "channel: keep channel N where the frequency has several", false, false},
+        {"nearest", nullptr, "channel: the nearest channel of each direction and its\n"
+                             "offset, for a frequency off the raster", false, false},
+        {"link", "0|1", "table: 0 downlink ranges (default), 1 uplink ranges", false, false},
+        {"tech", "T", "chart: only technology T (repeatable; short names as for bands)", false, false},
+        {"mark", "MHZ", "chart: a line at MHZ, labelled with the bands and channels\n"
+                        "there (repeatable)", false, false},
+        {"o output", "FILE", "chart: write the SVG to FILE instead of stdout", false, false},
+        {"json", nullptr, "JSON on stdout, full precision; in batch one document a line", true, false},
+        {"verbose", nullptr, "show the library's banner and diagnostics on stderr", true, false},
+        {"q quiet", nullptr, "no library diagnostics (the default)", true, false},
+        {"h help", nullptr, "this text", true, false},
+        {"v version", nullptr, "the library's version", true, false},
+        {"man", nullptr, "", true, true},
+        {"completion", nullptr, "", true, true},
+    };
+    // clang-format on
+    return list;
+}

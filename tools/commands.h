@@ -20,6 +20,20 @@ struct CommandOptions
     QString outputFile; // -o, for chart: where the SVG goes instead of stdout
 };
 
+// Every option of the program. The commands name the ones they take; the
+// common ones go with every command.
+struct ProgramOption
+{
+    const char *names; // blank-separated, long name last
+    const char *value; // the value's name, or nullptr for a switch
+    const char *help;
+    bool common;
+    bool hidden; // build-time outputs, not for people
+
+    QStringList allNames() const { return QString::fromLatin1(names).split(QLatin1Char(' ')); }
+};
+const QList<ProgramOption> &programOptions();
+
 struct Command
 {
     const char *name;
@@ -30,6 +44,12 @@ struct Command
     const char *options; // the options it takes besides the common ones, blank-separated
     // Null for the command the program runs itself (batch).
     Outcome (*run)(const QStringList &args, const CommandOptions &options);
+
+    // "freq BAND CHANNEL...", for messages and help.
+    QString call() const
+    {
+        return (QLatin1String(name) + QLatin1Char(' ') + QLatin1String(usage)).trimmed();
+    }
 };
 
 const QList<Command> &commands();

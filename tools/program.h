@@ -1,6 +1,7 @@
 #ifndef SAISKUKO_TOOLS_PROGRAM_H
 #define SAISKUKO_TOOLS_PROGRAM_H
 
+#include <QtCore/QString>
 #include <QtCore/QStringList>
 
 class QTextStream;
@@ -13,5 +14,10 @@ int runProgram(const QStringList &arguments, QTextStream &out, QTextStream &err)
 // Whether the arguments ask for the library's diagnostics (--verbose), known
 // before they are parsed.
 bool verboseRequested(const QStringList &arguments);
+
+// The pages the program prints from its command and option tables.
+QString helpText();
+QString manText();
+QString completionText();
 
 #endif

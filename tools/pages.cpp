@@ -1,0 +1,173 @@
+// The program's pages: help text, man page and bash completion, from its command and option tables.
+#include "program.h"
+
+#include "bandname.h"
+#include "commands.h"
+
+#include <saiskuko/saiskuko_version.h>
+
+#include <utility>
+
+namespace {
+
+// The prose of the help text and the man page, section by section.
+const char *const kNaming =
+    "  201                          its code (see: saiskuko bands TECH)\n"
+    "  \"LTE-FDD - Band 1 (2100)\"    its channel standard, exactly as listed\n"
+    "  TECH:BAND                    a short form, any case: LTE:1, TDD:40, NR:n78,\n"
+    "                               GSM:dcs1800, GSM:e900, CDMA:0, TDS:0, WIMAX:r1,\n"
+    "                               WCDMA:2-additional, WCDMA:21-3500, FDD:global\n"
+    "  B1, b1, band1                an LTE band; N78 an NR band; bc0 a CDMA band class\n"
+    "  WCDMA:I, WCDMA:VIII          UTRA bands in Roman numerals; LTE:07, NR:n078\n"
+    "                               leading zeros\n"
+    "  A name that fits no band or several is an error that lists the candidates.\n";
+const char *const kNotes =
+    "Frequencies are in MHz; text output rounds them to 1 Hz, and every frequency\n"
+    "printed converts back. \"Band Global\" repeats a technology's bands, so which and\n"
+    "search leave it out. A TDD band answers every command for both directions.\n"
+    "DUPLEX: FDD paired, TDD shared in time, SDL downlink only, SUL uplink only.\n";
+const char *const kExit =
+    "0 found, 1 valid query without result (said on stderr; --json still prints the\n"
+    "document), 2 bad input (one line on stderr), 3 the answer could not be written.\n"
+    "batch: 0 when every line succeeded, else the worst status of a line.\n";
+// clang-format on
+
+const char *const kSummary = "Looks up the band plan of CDMA, GSM, LTE, TD-SCDMA, WCDMA, WiMAX "
+                             "and 5G NR:\nchannels, centre frequencies and bands.\n";
+
+QString optionCall(const ProgramOption &option)
+{
+    QStringList calls;
+    for (const QString &name : option.allNames())
+        calls << (name.size() == 1 ? QLatin1String("-") : QLatin1String("--")) + name;
+    QString call = calls.join(QLatin1String(", "));
+    if (option.value)
+        call += QLatin1Char(' ') + QLatin1String(option.value);
+    return call;
+}
+
+QString commandsText()
+{
+    QString text;
+    for (const Command &command : commands())
+        text += QLatin1String("  ") + command.call().leftJustified(22) + QLatin1String("  ")
+                + QLatin1String(command.summary) + QLatin1Char('\n');
+    return text;
+}
+
+QString optionsText()
+{
+    QString text;
+    for (const ProgramOption &option : programOptions()) {
+        if (option.hidden)
+            continue;
+        const QStringList lines = QString::fromLatin1(option.help).split(QLatin1Char('\n'));
+        text += QLatin1String("  ") + optionCall(option).leftJustified(18) + QLatin1String("  ")
+                + lines.first() + QLatin1Char('\n');
+        for (const QString &line : lines.mid(1))
+            text += QString(22, QLatin1Char(' ')) + line + QLatin1Char('\n');
+    }
+    return text;
+}
+
+// Title and body of each section after the summary.
+QList<std::pair<QString, QString>> sections()
+{
+    return {{QStringLiteral("Commands"), commandsText()},
+            {QStringLiteral("Naming a band (one argument)"), QLatin1String(kNaming)},
+            {QStringLiteral("Options"), optionsText()},
+            {QStringLiteral("Notes"), QLatin1String(kNotes)},
+            {QStringLiteral("Exit status"), QLatin1String(kExit)}};
+}
+
+} // namespace
+
+QString helpText()
+{
+    QString text = QStringLiteral("Usage: saiskuko [options] COMMAND [ARGUMENTS...]\n")
+                   + QLatin1String(kSummary);
+    for (const auto &section : sections())
+        text += QLatin1Char('\n') + section.first + QLatin1String(":\n") + section.second;
+    return text;
+}
+
+QString manText()
+{
+    const auto escaped = [](QString text) {
+        text.replace(QLatin1Char('\\'), QLatin1String("\\e"));
+        text.replace(QLatin1Char('-'), QLatin1String("\\-"));
+        return text.replace(QLatin1String("\n."), QLatin1String("\n\\&."));
+    };
+    QString text = QStringLiteral(".TH SAISKUKO 1 \"\" \"saiskuko " SAISKUKO_VERSION_STR
+                                  "\" \"User Commands\"\n"
+                                  ".SH NAME\nsaiskuko \\- the band plan of cellular standards\n"
+                                  ".SH SYNOPSIS\n.B saiskuko\n[options] COMMAND [ARGUMENTS...]\n"
+                                  ".SH DESCRIPTION\n")
+                   + escaped(QLatin1String(kSummary));
+    for (const auto &section : sections())
+        text += QLatin1String(".SH ") + section.first.toUpper() + QLatin1String("\n.nf\n")
+                + escaped(section.second) + QLatin1String(".fi\n");
+    return text;
+}
+
+namespace {
+
+// Short names that complete to every band.
+QStringList bandShortNames()
+{
+    QStringList names;
+    for (int t : techSlots()) {
+        for (int b = 0; b < store().Technologies[t].NumBand; ++b)
+            names << shortName(BandRef{t, b});
+    }
+    names.removeAll(QString());
+    return names;
+}
+
+} // namespace
+
+QString completionText()
+{
+    QStringList commandNames, optionNames, techs;
+    for (const Command &command : commands())
+        commandNames << QLatin1String(command.name);
+    for (const ProgramOption &option : programOptions()) {
+        for (const QString &name : option.allNames()) {
+            if (!option.hidden && name.size() > 1)
+                optionNames << QLatin1String("--") + name;
+        }
+    }
+    for (int t : techSlots())
+        techs << techName(t).replace(QLatin1Char(' '), QLatin1String("\\\\ ")) << techAliases(t);
+    techs.removeDuplicates();
+    QString text = QStringLiteral(
+        "# bash completion for saiskuko\n"
+        "_saiskuko()\n{\n"
+        "    local cur word command= i\n"
+        "    local commands='%1'\n    local options='%2'\n    local techs='%3'\n"
+        "    local bands='%4'\n"
+        "    if declare -F _get_comp_words_by_ref >/dev/null; then\n"
+        "        _get_comp_words_by_ref -n : cur\n"
+        "    else\n        cur=${COMP_WORDS[COMP_CWORD]}\n    fi\n"
+        "    for ((i = 1; i < COMP_CWORD; i++)); do\n"
+        "        word=${COMP_WORDS[i]}\n"
+        "        if [[ $word != -* ]]; then command=$word; break; fi\n"
+        "    done\n"
+        "    if [[ $cur == -* ]]; then\n"
+        "        COMPREPLY=($(compgen -W \"$options\" -- \"$cur\"))\n"
+        "    elif [[ -z $command ]]; then\n"
+        "        COMPREPLY=($(compgen -W \"$commands\" -- \"$cur\"))\n"
+        "    else\n"
+        "        case $command in\n"
+        "        bands) COMPREPLY=($(compgen -W \"$techs\" -- \"$cur\")) ;;\n"
+        "        band|freq|channel|channels) COMPREPLY=($(compgen -W \"$bands\" -- \"$cur\")) ;;\n"
+        "        batch) COMPREPLY=($(compgen -f -- \"$cur\")) ;;\n"
+        "        esac\n"
+        "    fi\n"
+        "    if declare -F __ltrim_colon_completions >/dev/null; then\n"
+        "        __ltrim_colon_completions \"$cur\"\n    fi\n"
+        "}\n"
+        "complete -F _saiskuko saiskuko\n");
+    return text.arg(commandNames.join(QLatin1Char(' ')), optionNames.join(QLatin1Char(' ')),
+                    techs.join(QLatin1Char(' ')), bandShortNames().join(QLatin1Char(' ')));
+}
