@@ -1,7 +1,6 @@
 // The chart's content and geometry: rows of bands, bars of records, ticks, marks and legend.
 #include "chartlayout.h"
 
-#include "lookup.h"
 #include "output.h"
 
 #include <algorithm>
@@ -18,12 +17,15 @@ constexpr double kPlotWidth = 960;
 constexpr double kBarHeight = 10;
 constexpr double kLegendSwatch = 14;
 
+using saiskuko::Band;
+using saiskuko::Record;
+
 // A TDD band's links share one frequency range: one kind of bar for both.
-BarKind barKindOf(const BandRef &band, const stSubBand &record)
+BarKind barKindOf(const Band &band, const Record &record)
 {
-    if (band.duplex() == Duplex::Tdd)
+    if (band.duplex() == saiskuko::Duplex::Tdd)
         return BarKind::TimeDivision;
-    return record.Link == 1 ? BarKind::Uplink : BarKind::Downlink;
+    return record.link == saiskuko::Link::Up ? BarKind::Uplink : BarKind::Downlink;
 }
 
 QString directionText(BarKind kind)
@@ -39,53 +41,41 @@ QString directionText(BarKind kind)
     return QStringLiteral("uplink and downlink (time-division)");
 }
 
-QString barTitle(const BandRef &band, BarKind kind, const stSubBand &record)
+QString barTitle(const Band &band, BarKind kind, const Record &record)
 {
-    return band.techName() + QLatin1Char('\n') + band.bandName()
+    return band.technologyName() + QLatin1Char('\n') + band.name()
            + QStringLiteral(" [%1]").arg(band.code()) + QLatin1Char('\n') + directionText(kind)
            + QLatin1Char('\n')
-           + QStringLiteral("channels %1-%2").arg(record.StartChannelNo).arg(record.StopChannelNo)
-           + QLatin1Char('\n') + formatMHz(record.StartFreq) + QLatin1Char('-')
-           + formatMHz(record.StopFreq) + QStringLiteral(" MHz");
+           + QStringLiteral("channels %1-%2").arg(record.firstChannel).arg(record.lastChannel)
+           + QLatin1Char('\n') + formatMHz(record.lowEdgeMHz) + QLatin1Char('-')
+           + formatMHz(record.highEdgeMHz) + QStringLiteral(" MHz");
 }
 
-// Whether a record shows in the window: a real record whose edges overlap it
-// (a record of zero width counts where it lies inside).
-bool overlapsWindow(const stSubBand &record, double low, double high)
+// Whether a record shows in the window: its edges overlap it (a record of
+// zero width counts where it lies inside).
+bool overlapsWindow(const Record &record, double low, double high)
 {
-    if (isPlaceholder(record) || !std::isfinite(record.StartFreq)
-        || !std::isfinite(record.StopFreq))
+    const double a = record.lowEdgeMHz, b = record.highEdgeMHz;
+    if (!std::isfinite(a) || !std::isfinite(b))
         return false;
-    const double from = std::max(std::min(record.StartFreq, record.StopFreq), low);
-    const double to = std::min(std::max(record.StartFreq, record.StopFreq), high);
-    return from < to || (record.StartFreq == record.StopFreq && from == to);
+    const double from = std::max(std::min(a, b), low);
+    const double to = std::min(std::max(a, b), high);
+    return from < to || (a == b && from == to);
 }
 
-bool sameBar(const ChartBar &bar, BarKind kind, const stSubBand &record)
-{
-    return bar.kind == kind && bar.lowMHz == record.StartFreq && bar.highMHz == record.StopFreq;
-}
-
-QList<ChartBar> barsOf(const BandRef &band, double low, double high)
+QList<ChartBar> barsOf(const Band &band, double low, double high)
 {
     QList<ChartBar> bars;
-    const ChBand &data = band.data();
-    for (int i = 0; i < recordCount(data); ++i) {
-        const stSubBand &r = data.SubBands[i];
+    for (const Record &r : recordsInOrder(band)) {
         if (!overlapsWindow(r, low, high))
             continue;
         const BarKind kind = barKindOf(band, r);
         // Both links of a time-division band name the same channels: one bar.
-        const bool drawn = std::any_of(bars.begin(), bars.end(),
-                                       [&](const ChartBar &b) { return sameBar(b, kind, r); });
-        if (drawn)
-            continue;
-        ChartBar bar;
-        bar.kind = kind;
-        bar.lowMHz = r.StartFreq;
-        bar.highMHz = r.StopFreq;
-        bar.title = barTitle(band, kind, r);
-        bars.append(bar);
+        const bool drawn = std::any_of(bars.begin(), bars.end(), [&](const ChartBar &b) {
+            return b.kind == kind && b.lowMHz == r.lowEdgeMHz && b.highMHz == r.highEdgeMHz;
+        });
+        if (!drawn)
+            bars.append({kind, r.lowEdgeMHz, r.highEdgeMHz, {}, barTitle(band, kind, r)});
     }
     return bars;
 }
@@ -98,13 +88,13 @@ QString tickLabel(double mhz, double step)
 
 // The hits of the frequency search at a mark, as the search command lists
 // them, of the charted technologies.
-QStringList markLines(double mhz, const QList<int> &techSlots)
+QStringList markLines(double mhz, const QList<saiskuko::Technology> &techs)
 {
     QStringList lines{formatMHz(mhz) + QStringLiteral(" MHz")};
-    for (const SearchHit &hit : searchHits(mhz)) {
-        if (techSlots.isEmpty() || techSlots.contains(hit.band.tech))
-            lines << hit.band.techName() + QLatin1Char(' ') + hit.band.bandName() + QLatin1Char(' ')
-                         + linkShort(hit.link) + QStringLiteral(" ch ")
+    for (const saiskuko::SearchHit &hit : saiskuko::search(mhz)) {
+        if (techs.isEmpty() || techs.contains(hit.band.technology()))
+            lines << hit.band.technologyName() + QLatin1Char(' ') + hit.band.name()
+                         + QLatin1Char(' ') + linkShort(hit.link) + QStringLiteral(" ch ")
                          + QString::number(hit.channel);
     }
     return lines;
@@ -194,26 +184,24 @@ ChartLayout layoutChart(const ChartRequest &request)
 
     // Rows first: the label column is as wide as the widest label.
     double labelWidth = 0;
-    for (int t : techSlots()) {
-        if (!request.techSlots.isEmpty() && !request.techSlots.contains(t))
+    for (saiskuko::Technology tech : saiskuko::technologies()) {
+        if (!request.techs.isEmpty() && !request.techs.contains(tech))
             continue;
-        ChartGroup group;
-        group.tech = t;
-        group.label = techName(t);
-        for (int b = 0; b < store().Technologies[t].NumBand; ++b) {
+        bool grouped = false;
+        for (const Band &band : saiskuko::bands(tech)) {
             ChartRow row;
-            row.band = BandRef{t, b};
-            if (isGlobalBandName(row.band.bandName()))
-                continue;
-            row.bars = barsOf(row.band, request.lowMHz, request.highMHz);
+            row.band = band;
+            row.bars =
+                band.isGlobal() ? QList<ChartBar>() : barsOf(band, request.lowMHz, request.highMHz);
             if (row.bars.isEmpty())
                 continue;
-            if (group.tech >= 0) {
-                layout.groups.append(group);
-                labelWidth = std::max(labelWidth, chartTextWidth(group.label, kFontSize));
-                group.tech = -1;
+            if (!grouped) {
+                layout.groups.append({tech, saiskuko::technologyName(tech), {}});
+                labelWidth =
+                    std::max(labelWidth, chartTextWidth(layout.groups.last().label, kFontSize));
+                grouped = true;
             }
-            row.label = row.band.bandName() + QStringLiteral(" [%1]").arg(row.band.code());
+            row.label = band.name() + QStringLiteral(" [%1]").arg(band.code());
             labelWidth = std::max(labelWidth, chartTextWidth(row.label, kFontSize));
             layout.rows.append(row);
         }
@@ -230,7 +218,7 @@ ChartLayout layoutChart(const ChartRequest &request)
         ChartMark mark;
         mark.mhz = mhz;
         mark.x = layout.xOf(mhz);
-        mark.lines = markLines(mhz, request.techSlots);
+        mark.lines = markLines(mhz, request.techs);
         layout.marks.append(mark);
     }
     std::sort(layout.marks.begin(), layout.marks.end(),
@@ -257,7 +245,7 @@ ChartLayout layoutChart(const ChartRequest &request)
 
     int group = 0;
     for (ChartRow &row : layout.rows) {
-        if (group < layout.groups.size() && layout.groups[group].tech == row.band.tech) {
+        if (group < layout.groups.size() && layout.groups[group].tech == row.band.technology()) {
             ChartGroup &g = layout.groups[group++];
             g.labelBox = ChartBox{kMargin, y, chartTextWidth(g.label, kFontSize), kLineHeight};
             y += kLineHeight;

@@ -1,7 +1,7 @@
 #ifndef SAISKUKO_TOOLS_CHARTLAYOUT_H
 #define SAISKUKO_TOOLS_CHARTLAYOUT_H
 
-#include "bandname.h"
+#include <saiskuko/bandplan.h>
 
 #include <QtCore/QList>
 #include <QtCore/QString>
@@ -16,7 +16,7 @@ struct ChartRequest
 {
     double lowMHz = 0;
     double highMHz = 0;
-    QList<int> techSlots; // empty: every technology
+    QList<saiskuko::Technology> techs; // empty: every technology
     QList<double> marksMHz;
 };
 
@@ -44,7 +44,7 @@ struct ChartBar
 
 struct ChartRow
 {
-    BandRef band;
+    saiskuko::Band band;
     QString label; // band name and code
     ChartBox labelBox;
     QList<ChartBar> bars;
@@ -52,7 +52,7 @@ struct ChartRow
 
 struct ChartGroup
 {
-    int tech = -1;
+    saiskuko::Technology tech = saiskuko::Technology::Cdma;
     QString label;
     ChartBox labelBox;
 };

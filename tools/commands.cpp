@@ -1,9 +1,10 @@
-// The program's commands: each turns its arguments into a query and its answer into text or JSON.
+// The program's commands: each turns its arguments into typed API queries and its answers into
+// rows.
 #include "commands.h"
 
-#include "bandname.h"
 #include "chartsvg.h"
-#include "lookup.h"
+
+#include <saiskuko/saiskuko.h>
 
 #include <QtCore/QFile>
 #include <QtCore/QJsonArray>
@@ -12,6 +13,11 @@
 #include <algorithm>
 #include <cmath>
 #include <utility>
+
+using saiskuko::Band;
+using saiskuko::Duplex;
+using saiskuko::Link;
+using saiskuko::Record;
 
 namespace {
 
@@ -49,65 +55,52 @@ double parseMHz(const QString &text)
     return mhz;
 }
 
-QList<int> parseChannels(const QStringList &args)
+Band parseBand(const QString &text)
 {
-    QList<int> channels;
-    for (const QString &arg : args)
-        channels << parseChannel(arg);
-    return channels;
+    return valueOrBadInput(saiskuko::findBand(text));
 }
 
-QList<double> parseFrequencies(const QStringList &args)
+QList<Link> linksFor(const Band &band, const CommandOptions &options)
 {
-    QList<double> freqs;
-    for (const QString &arg : args)
-        freqs << parseMHz(arg);
-    return freqs;
+    return options.links.isEmpty() ? band.links() : options.links;
 }
 
-QJsonArray toJsonArray(const QList<Range> &ranges)
+QString span(const QString &first, const QString &last)
 {
-    QJsonArray out;
-    for (const Range &r : ranges)
-        out.append(QJsonArray{r.first, r.second});
-    return out;
+    return first + QLatin1Char('-') + last;
 }
 
-// Sorted, with overlapping ranges (and, for channels, adjacent ones) merged.
-QList<Range> merged(QList<Range> ranges, double adjacency)
+// Sorted, with overlapping ranges (and, for channels, adjacent ones) merged:
+// as JSON pairs, and as text ("1-799,991-1023", "-" for none).
+Cell ranges(QList<Range> list, double adjacency, bool channels)
 {
-    std::sort(ranges.begin(), ranges.end());
-    QList<Range> out;
-    for (const Range &r : ranges) {
-        if (!out.isEmpty() && r.first <= out.last().second + adjacency)
-            out.last().second = std::max(out.last().second, r.second);
+    std::sort(list.begin(), list.end());
+    QList<Range> merged;
+    for (const Range &r : list) {
+        if (!merged.isEmpty() && r.first <= merged.last().second + adjacency)
+            merged.last().second = std::max(merged.last().second, r.second);
         else
-            out.append(r);
+            merged.append(r);
     }
+    QJsonArray json;
+    QStringList text;
+    for (const Range &r : merged) {
+        json.append(QJsonArray{r.first, r.second});
+        text << (channels
+                     ? span(QString::number(qint64(r.first)), QString::number(qint64(r.second)))
+                     : span(formatMHz(r.first), formatMHz(r.second)));
+    }
+    return {json, merged.isEmpty() ? QStringLiteral("-") : text.join(QLatin1Char(','))};
+}
+
+// A band's rows start with its title, and its JSON with the band.
+Outcome bandOutcome(const Band &band, const char *rowsKey)
+{
+    Outcome out;
+    out.heading = bandTitle(band);
+    out.json.insert(QStringLiteral("band"), bandJson(band));
+    out.rowsKey = QLatin1String(rowsKey);
     return out;
-}
-
-QString rangesText(const QList<Range> &ranges, bool channels)
-{
-    if (ranges.isEmpty())
-        return QStringLiteral("-");
-    QStringList parts;
-    for (const Range &r : ranges) {
-        parts << (channels ? QString::number(qint64(r.first)) + QLatin1Char('-')
-                                 + QString::number(qint64(r.second))
-                           : formatMHz(r.first) + QLatin1Char('-') + formatMHz(r.second));
-    }
-    return parts.join(QLatin1Char(','));
-}
-
-QList<int> linksFor(const BandRef &band, const CommandOptions &options)
-{
-    return options.links.isEmpty() ? linksOf(band) : options.links;
-}
-
-QString bandTitle(const BandRef &band)
-{
-    return band.standard() + QStringLiteral(" [%1]").arg(band.code());
 }
 
 // ---------------------------------------------------------------- commands
@@ -115,244 +108,234 @@ QString bandTitle(const BandRef &band)
 Outcome runTechs(const QStringList &, const CommandOptions &)
 {
     Outcome out;
-    TextTable table({QStringLiteral("SLOT"), QStringLiteral("TECH"), QStringLiteral("BANDS"),
-                     QStringLiteral("INT BW HZ"), QStringLiteral("SHORT")});
-    table.alignRight(0);
-    table.alignRight(2);
-    table.alignRight(3);
-    QJsonArray list;
-    for (int t : techSlots()) {
-        const QString name = techName(t);
-        const int bands = store().Technologies[t].NumBand;
-        const double bandwidth = store().GetDefaultIntBW(name);
-        const QStringList aliases = techAliases(t);
-        table.addRow({QString::number(t), name, QString::number(bands),
-                      QString::number(bandwidth, 'f', 0),
-                      aliases.isEmpty() ? QStringLiteral("-") : aliases.join(QLatin1Char(','))});
-        list.append(
-            QJsonObject{{QStringLiteral("slot"), t},
-                        {QStringLiteral("name"), name},
-                        {QStringLiteral("bands"), bands},
-                        {QStringLiteral("defaultIntegrationBandwidthHz"), bandwidth},
-                        {QStringLiteral("shortForms"), QJsonArray::fromStringList(aliases)}});
+    out.rowsKey = QStringLiteral("technologies");
+    out.columns = {{"SLOT", "slot", true},
+                   {"TECH", "name"},
+                   {"BANDS", "bands", true},
+                   {"INT BW HZ", "defaultIntegrationBandwidthHz", true},
+                   {"SHORT", "shortForms"}};
+    for (saiskuko::Technology tech : saiskuko::technologies()) {
+        const QStringList forms = saiskuko::technologyShortForms(tech);
+        // The compatible interface's bandwidth: it falls back to 1 MHz for 5G NR.
+        const QString name = saiskuko::technologyName(tech);
+        out.rows << Row{int(tech),
+                        name,
+                        saiskuko::bands(tech).size(),
+                        ChStd::GetChStdPointer()->GetDefaultIntBW(name),
+                        {QJsonArray::fromStringList(forms),
+                         forms.isEmpty() ? QStringLiteral("-") : forms.join(QLatin1Char(','))}};
     }
-    out.text = table.render();
-    out.json.insert(QStringLiteral("technologies"), list);
     return out;
 }
 
 Outcome runBands(const QStringList &args, const CommandOptions &)
 {
-    const int t = resolveTech(args[0]);
-    const ChTechnology &tech = store().Technologies[t];
+    const saiskuko::Technology tech = valueOrBadInput(saiskuko::findTechnology(args[0]));
     Outcome out;
-    TextTable table({QStringLiteral("CODE"), QStringLiteral("BAND"), QStringLiteral("UL CHANNELS"),
-                     QStringLiteral("UL MHZ"), QStringLiteral("DL CHANNELS"),
-                     QStringLiteral("DL MHZ"), QStringLiteral("RECORDS"),
-                     QStringLiteral("DUPLEX")});
-    table.alignRight(0);
-    table.alignRight(6);
-    QJsonArray list;
-    for (int b = 0; b < tech.NumBand; ++b) {
-        const BandRef band{t, b};
-        const ChBand &data = band.data();
-        QStringList row{QString::number(band.code()), data.BandName};
-        QJsonObject entry = band.toJson();
-        entry.insert(QStringLiteral("standard"), band.standard());
-        for (int link : {1, 0}) {
+    out.json.insert(QStringLiteral("technology"), saiskuko::technologyName(tech));
+    out.rowsKey = QStringLiteral("bands");
+    out.columns = {{"CODE", "code", true},
+                   {"BAND", "band"},
+                   {"UL CHANNELS", "uplink"},
+                   {"UL MHZ", ""},
+                   {"DL CHANNELS", "downlink"},
+                   {"DL MHZ", ""},
+                   {"RECORDS", "records", true},
+                   {"DUPLEX", "duplex"},
+                   {"", "technology"},
+                   {"", "standard"},
+                   {"", "global"}};
+    for (const Band &band : saiskuko::bands(tech)) {
+        Row row{band.code(), band.name()};
+        for (Link link : {Link::Up, Link::Down}) {
             QList<Range> channels, edges;
-            for (const stSubBand *r : recordsFor(band, link)) {
-                channels.append({r->StartChannelNo, r->StopChannelNo});
-                edges.append({r->StartFreq, r->StopFreq});
+            for (const Record &r : band.records(link)) {
+                channels.append({r.firstChannel, r.lastChannel});
+                edges.append({r.lowEdgeMHz, r.highEdgeMHz});
             }
-            channels = merged(channels, 1);
-            edges = merged(edges, 0);
+            const Cell channelCell = ranges(channels, 1, true), edgeCell = ranges(edges, 0, false);
+            const QJsonObject json{{QStringLiteral("channels"), channelCell.json},
+                                   {QStringLiteral("mhz"), edgeCell.json}};
             // A global band repeats every band; its dozens of ranges would
             // only widen the table (JSON keeps them).
-            if (data.IsGlobal && !channels.isEmpty())
-                row << QStringLiteral("(all bands)") << QStringLiteral("(all bands)");
-            else
-                row << rangesText(channels, true) << rangesText(edges, false);
-            entry.insert(linkWord(link),
-                         channels.isEmpty()
-                             ? QJsonValue(QJsonValue::Null)
-                             : QJsonObject{{QStringLiteral("channels"), toJsonArray(channels)},
-                                           {QStringLiteral("mhz"), toJsonArray(edges)}});
+            const bool global = band.isGlobal() && !channels.isEmpty();
+            row << Cell{channels.isEmpty() ? QJsonValue() : json,
+                        global ? QStringLiteral("(all bands)") : channelCell.text}
+                << Cell{QJsonValue(), global ? QStringLiteral("(all bands)") : edgeCell.text};
         }
-        row << QString::number(data.NumSubBand) << duplexName(band.duplex());
-        entry.insert(QStringLiteral("global"), data.IsGlobal);
-        entry.insert(QStringLiteral("records"), data.NumSubBand);
-        table.addRow(row);
-        list.append(entry);
+        row << registeredRecordCount(band) << saiskuko::duplexName(band.duplex())
+            << band.technologyName() << band.standard() << band.isGlobal();
+        out.rows << row;
     }
-    out.text = table.render();
-    out.json.insert(QStringLiteral("technology"), tech.TechName);
-    out.json.insert(QStringLiteral("bands"), list);
     return out;
 }
 
 Outcome runBand(const QStringList &args, const CommandOptions &)
 {
-    const BandRef band = resolveBand(args[0]);
-    const ChBand &data = band.data();
-    const QString duplex = duplexName(band.duplex());
-    Outcome out;
-    TextTable table({QStringLiteral("DIR"), QStringLiteral("CHANNELS"), QStringLiteral("EDGES MHZ"),
-                     QStringLiteral("FIRST MHZ"), QStringLiteral("LAST MHZ"),
-                     QStringLiteral("STEP MHZ"), QStringLiteral("DUPLEX"),
-                     QStringLiteral("PAIR OFFSET")});
-    table.alignRight(7);
-    QJsonArray records;
-    for (int i = 0; i < recordCount(data); ++i) {
-        const stSubBand &r = data.SubBands[i];
-        if (isPlaceholder(r))
-            continue;
-        const double first = recordFreq(r, r.StartChannelNo);
-        const double last = recordFreq(r, r.StopChannelNo);
-        const bool stepped = r.StopChannelNo > r.StartChannelNo;
-        const double step = stepped ? recordFreq(r, r.StartChannelNo + 1) - first : 0;
-        int paired = 0;
-        const bool hasPair = pairedChannel(band, r.Link, r.StartChannelNo, &paired);
-        const int offset = r.Link == 1 ? r.StartChannelNo - paired : paired - r.StartChannelNo;
-        table.addRow(
-            {linkShort(r.Link), QStringLiteral("%1-%2").arg(r.StartChannelNo).arg(r.StopChannelNo),
-             formatMHz(r.StartFreq) + QLatin1Char('-') + formatMHz(r.StopFreq), formatMHz(first),
-             formatMHz(last), stepped ? formatMHz(step) : QStringLiteral("-"), duplex,
-             hasPair ? QString::number(offset) : QStringLiteral("-")});
-        records.append(
-            QJsonObject{{QStringLiteral("direction"), linkWord(r.Link)},
-                        {QStringLiteral("channels"), QJsonArray{r.StartChannelNo, r.StopChannelNo}},
-                        {QStringLiteral("edgesMHz"), QJsonArray{r.StartFreq, r.StopFreq}},
-                        {QStringLiteral("firstMHz"), first},
-                        {QStringLiteral("lastMHz"), last},
-                        {QStringLiteral("stepMHz"), jsonNumberOrNull(stepped, step)},
-                        {QStringLiteral("pairOffset"), jsonNumberOrNull(hasPair, offset)}});
+    const Band band = parseBand(args[0]);
+    Outcome out = bandOutcome(band, "records");
+    out.columns = {{"DIR", "direction"},
+                   {"CHANNELS", "channels"},
+                   {"EDGES MHZ", "edgesMHz"},
+                   {"FIRST MHZ", "firstMHz"},
+                   {"LAST MHZ", "lastMHz"},
+                   {"STEP MHZ", "stepMHz"},
+                   {"DUPLEX", ""},
+                   {"PAIR OFFSET", "pairOffset", true}};
+    for (const Record &r : recordsInOrder(band)) {
+        const saiskuko::Result<int> paired = band.pairedChannel(r.link, r.firstChannel);
+        const int offset = (paired.value() - r.firstChannel) * (r.link == Link::Up ? -1 : 1);
+        out.rows << Row{{linkWord(r.link), linkShort(r.link)},
+                        {QJsonArray{r.firstChannel, r.lastChannel},
+                         span(QString::number(r.firstChannel), QString::number(r.lastChannel))},
+                        {QJsonArray{r.lowEdgeMHz, r.highEdgeMHz},
+                         span(formatMHz(r.lowEdgeMHz), formatMHz(r.highEdgeMHz))},
+                        r.firstMHz,
+                        r.lastMHz,
+                        r.lastChannel > r.firstChannel ? QJsonValue(r.stepMHz) : QJsonValue(),
+                        saiskuko::duplexName(band.duplex()),
+                        paired.ok() ? QJsonValue(offset) : QJsonValue()};
     }
-    out.json.insert(QStringLiteral("band"), band.toJson());
-    out.json.insert(QStringLiteral("records"), records);
-    out.text = bandTitle(band) + QLatin1Char('\n') + table.render();
     return out;
 }
 
-// The channel of the other direction paired with a found channel, for text
-// ("UL 18300 1950") and JSON; nothing where the band is not paired.
-void addPair(const BandRef &band, int link, int channel, QStringList *text, QJsonArray *json)
+// The channels of the other link paired with a channel, for text ("UL 18300
+// 1950") and JSON; nothing where the band is not paired.
+void addPair(const Band &band, Link link, int channel, QStringList *text, QJsonArray *json)
 {
-    int other = 0;
-    if (!pairedChannel(band, link, channel, &other))
+    const saiskuko::Result<int> other = band.pairedChannel(link, channel);
+    if (!other.ok())
         return;
-    double mhz = 0;
-    const bool found = channelFreq(band, 1 - link, other, &mhz);
-    *text << linkShort(1 - link) + QLatin1Char(' ') + QString::number(other) + QLatin1Char(' ')
-                 + (found ? formatMHz(mhz) : QStringLiteral("-"));
-    json->append(QJsonObject{{QStringLiteral("direction"), linkWord(1 - link)},
-                             {QStringLiteral("channel"), other},
-                             {QStringLiteral("mhz"), jsonNumberOrNull(found, mhz)}});
+    const Link otherLink = link == Link::Up ? Link::Down : Link::Up;
+    const saiskuko::Result<double> mhz = band.frequency(otherLink, other.value());
+    *text << linkShort(otherLink) + QLatin1Char(' ') + QString::number(other.value())
+                 + QLatin1Char(' ') + (mhz.ok() ? formatMHz(mhz.value()) : QStringLiteral("-"));
+    json->append(
+        QJsonObject{{QStringLiteral("direction"), linkWord(otherLink)},
+                    {QStringLiteral("channel"), other.value()},
+                    {QStringLiteral("mhz"), mhz.ok() ? QJsonValue(mhz.value()) : QJsonValue()}});
 }
 
 Outcome runFreq(const QStringList &args, const CommandOptions &options)
 {
-    const BandRef band = resolveBand(args[0]);
-    const QList<int> channels = parseChannels(args.mid(1));
-    const QList<int> links = linksFor(band, options);
+    const Band band = parseBand(args[0]);
+    QList<int> channels;
+    for (const QString &arg : args.mid(1))
+        channels << parseChannel(arg);
+    const QList<Link> links = linksFor(band, options);
     const bool paired = band.duplex() == Duplex::Fdd;
 
-    Outcome out;
-    QStringList header{QStringLiteral("CHANNEL")};
-    for (int link : links)
-        header << linkShort(link) + QLatin1String(" MHZ");
+    Outcome out = bandOutcome(band, "results");
+    out.columns << Column{"CHANNEL", "channel"};
+    for (Link link : links)
+        out.columns << Column{linkShort(link) + QLatin1String(" MHZ"), linkWord(link)};
     if (paired)
-        header << QStringLiteral("PAIRED");
-    TextTable table(header);
-    QJsonArray results;
+        out.columns << Column{"PAIRED", "paired"};
     bool any = false;
     for (int channel : channels) {
-        QStringList row{QString::number(channel)}, pairs;
-        QJsonObject entry{{QStringLiteral("channel"), channel}};
-        QJsonArray pairList;
-        for (int link : links) {
-            double mhz = 0;
-            const bool found = channelFreq(band, link, channel, &mhz);
-            any = any || found;
-            row << (found ? formatMHz(mhz) : QStringLiteral("-"));
-            entry.insert(linkWord(link), jsonNumberOrNull(found, mhz));
-            if (found)
-                addPair(band, link, channel, &pairs, &pairList);
+        Row row{channel};
+        QStringList pairText;
+        QJsonArray pairs;
+        for (Link link : links) {
+            const saiskuko::Result<double> mhz = band.frequency(link, channel);
+            any = any || mhz.ok();
+            row << (mhz.ok() ? QJsonValue(mhz.value()) : QJsonValue());
+            if (mhz.ok())
+                addPair(band, link, channel, &pairText, &pairs);
         }
-        if (paired) {
-            row << (pairs.isEmpty() ? QStringLiteral("-") : pairs.join(QLatin1String(", ")));
-            entry.insert(QStringLiteral("paired"), pairList);
-        }
-        table.addRow(row);
-        results.append(entry);
+        if (paired)
+            row << Cell{pairs, pairText.isEmpty() ? QStringLiteral("-")
+                                                  : pairText.join(QLatin1String(", "))};
+        out.rows << row;
     }
-    out.json.insert(QStringLiteral("band"), band.toJson());
-    out.json.insert(QStringLiteral("results"), results);
     if (!any) {
         out.status = ExitNoResult;
         QStringList words;
-        for (int link : links)
+        for (Link link : links)
             words << linkWord(link);
         out.notes << (channels.size() == 1 ? QStringLiteral("channel %1 is not").arg(channels[0])
                                            : QStringLiteral("none of these channels is"))
                          + QLatin1String(" in ") + band.standard() + QLatin1String(" (")
                          + words.join(QLatin1String(" or ")) + QLatin1Char(')');
-        return out;
     }
-    out.text = bandTitle(band) + QLatin1Char('\n') + table.render();
     return out;
+}
+
+// Every channel of the link centred on mhz, or the nearest one.
+QList<int> channelsAt(const Band &band, Link link, double mhz, bool nearest)
+{
+    if (!nearest)
+        return band.channelsAt(link, mhz).value();
+    const saiskuko::Result<int> channel = band.nearestChannel(link, mhz);
+    return channel.ok() ? QList<int>{channel.value()} : QList<int>();
+}
+
+// The centre of a channel nearest to mhz: a channel two records hold with
+// different formulas has a centre in each.
+double centreNear(const Band &band, Link link, int channel, double mhz)
+{
+    double best = HUGE_VAL;
+    for (double centre : band.frequencies(link, channel)) {
+        if (std::fabs(centre - mhz) < std::fabs(best - mhz))
+            best = centre;
+    }
+    return best;
 }
 
 Outcome runChannel(const QStringList &args, const CommandOptions &options)
 {
-    const BandRef band = resolveBand(args[0]);
-    const QList<double> freqs = parseFrequencies(args.mid(1));
-    const QList<int> links = linksFor(band, options);
+    const Band band = parseBand(args[0]);
+    QList<double> freqs;
+    for (const QString &arg : args.mid(1))
+        freqs << parseMHz(arg);
+    const QList<Link> links = linksFor(band, options);
 
-    Outcome out;
-    QStringList header{QStringLiteral("MHZ")};
-    for (int link : links) {
-        header << linkShort(link) + QLatin1String(" CHANNEL");
+    Outcome out = bandOutcome(band, "results");
+    out.json.insert(QStringLiteral("preferred"),
+                    options.hasPreferred ? QJsonValue(options.preferred) : QJsonValue());
+    out.json.insert(QStringLiteral("nearest"), options.nearest);
+    out.columns << Column{"MHZ", "mhz"};
+    for (Link link : links) {
+        out.columns << Column{linkShort(link) + QLatin1String(" CHANNEL"), linkWord(link)};
         if (options.nearest)
-            header << linkShort(link) + QLatin1String(" OFFSET MHZ");
+            out.columns << Column{linkShort(link) + QLatin1String(" OFFSET MHZ"), QString()};
     }
-    TextTable table(header);
-    QJsonArray results;
     bool any = false;
     for (int i = 0; i < freqs.size(); ++i) {
-        const QString typed = args[i + 1].trimmed();
-        QStringList row{typed};
-        QJsonObject entry{{QStringLiteral("mhz"), freqs[i]}};
-        for (int link : links) {
-            ChannelHit hit;
-            const bool found = options.nearest
-                                   ? nearestChannel(band, link, freqs[i], &hit)
-                                   : channelAt(band, link, freqs[i], options.preferred, &hit);
-            any = any || found;
-            const double offset = hit.mhz - freqs[i];
-            row << (found ? QString::number(hit.channel) : QStringLiteral("-"));
+        Row row{{freqs[i], args[i + 1].trimmed()}};
+        for (Link link : links) {
+            const QList<int> found = channelsAt(band, link, freqs[i], options.nearest);
+            any = any || !found.isEmpty();
+            // --preferred N: N alone where it is among several (JSON lists them all).
+            const bool preferred = options.hasPreferred && found.contains(options.preferred);
+            const int channel = preferred ? options.preferred : found.value(0);
+            const double centre = centreNear(band, link, channel, freqs[i]);
+            const bool inside = band.withinEdges(link, centre);
+            QJsonArray all;
+            QStringList text;
+            for (int c : found) {
+                all.append(c);
+                text << QString::number(c);
+            }
+            const QJsonObject match{{QStringLiteral("channel"), channel},
+                                    {QStringLiteral("channels"), all},
+                                    {QStringLiteral("channelMHz"), centre},
+                                    {QStringLiteral("offsetMHz"), centre - freqs[i]},
+                                    {QStringLiteral("insideEdges"), inside}};
+            row << (found.isEmpty() ? Cell{QJsonValue()}
+                                    : Cell{match, preferred ? QString::number(channel)
+                                                            : text.join(QLatin1Char(','))});
             if (options.nearest)
-                row << (found ? formatMHz(offset) : QStringLiteral("-"));
-            QJsonObject match{{QStringLiteral("channel"), hit.channel},
-                              {QStringLiteral("channelMHz"), hit.mhz},
-                              {QStringLiteral("offsetMHz"), offset},
-                              {QStringLiteral("insideEdges"), hit.insideEdges}};
-            entry.insert(linkWord(link), found ? QJsonValue(match) : QJsonValue());
-            if (found && !hit.insideEdges)
+                row << (found.isEmpty() ? QJsonValue() : QJsonValue(centre - freqs[i]));
+            if (!found.isEmpty() && !inside)
                 out.notes << QStringLiteral("%1 channel %2 (%3 MHz) lies outside the stated "
                                             "edges of %4")
                                  .arg(linkShort(link))
-                                 .arg(hit.channel)
-                                 .arg(formatMHz(hit.mhz), band.standard());
+                                 .arg(channel)
+                                 .arg(formatMHz(centre), band.standard());
         }
-        table.addRow(row);
-        results.append(entry);
+        out.rows << row;
     }
-    out.json.insert(QStringLiteral("band"), band.toJson());
-    out.json.insert(QStringLiteral("preferred"),
-                    jsonNumberOrNull(options.hasPreferred, options.preferred));
-    out.json.insert(QStringLiteral("nearest"), options.nearest);
-    out.json.insert(QStringLiteral("results"), results);
     if (!any) {
         out.status = ExitNoResult;
         out.notes << (freqs.size() == 1 ? cut(args[1].trimmed()) + QLatin1String(" MHz is not")
@@ -362,117 +345,90 @@ Outcome runChannel(const QStringList &args, const CommandOptions &options)
                          + band.standard()
                          + (options.nearest ? QLatin1String("")
                                             : QLatin1String(" (try: --nearest)"));
-        return out;
     }
-    out.text = bandTitle(band) + QLatin1Char('\n') + table.render();
     return out;
 }
 
+// Every band and link holding each frequency, nearest channel first.
 Outcome runSearch(const QStringList &args, const CommandOptions &options)
 {
-    const QList<double> freqs = parseFrequencies(args);
-
     Outcome out;
-    TextTable table({QStringLiteral("MHZ"), QStringLiteral("CODE"), QStringLiteral("TECH"),
-                     QStringLiteral("BAND"), QStringLiteral("DIR"), QStringLiteral("CHANNEL"),
-                     QStringLiteral("CHANNEL MHZ"), QStringLiteral("OFFSET MHZ")});
-    table.alignRight(1);
-    table.alignRight(5);
-    QJsonArray results;
-    for (int i = 0; i < freqs.size(); ++i) {
-        const double f = freqs[i];
-        QJsonArray hits;
-        for (const SearchHit &hit : searchHits(f)) {
-            if (!options.links.isEmpty() && !options.links.contains(hit.link))
-                continue;
-            table.addRow({args[i].trimmed(), QString::number(hit.band.code()), hit.band.techName(),
-                          hit.band.bandName(), linkShort(hit.link), QString::number(hit.channel),
-                          formatMHz(hit.centreMHz), formatMHz(hit.offsetMHz)});
-            QJsonObject item = hit.band.toJson();
-            item.insert(QStringLiteral("direction"), linkWord(hit.link));
-            item.insert(QStringLiteral("channel"), hit.channel);
-            item.insert(QStringLiteral("channelMHz"), hit.centreMHz);
-            item.insert(QStringLiteral("offsetMHz"), hit.offsetMHz);
-            hits.append(item);
+    out.rowsKey = QStringLiteral("results");
+    out.columns = {{"MHZ", "mhz"},
+                   {"CODE", "code", true},
+                   {"TECH", "technology"},
+                   {"BAND", "band"},
+                   {"DIR", "direction"},
+                   {"CHANNEL", "channel", true},
+                   {"CHANNEL MHZ", "channelMHz"},
+                   {"OFFSET MHZ", "offsetMHz"}};
+    for (const QString &arg : args) {
+        const double mhz = parseMHz(arg);
+        const int before = out.rows.size();
+        for (const saiskuko::SearchHit &hit : saiskuko::search(mhz)) {
+            if (options.links.isEmpty() || options.links.contains(hit.link))
+                out.rows << Row{{mhz, arg.trimmed()},
+                                hit.band.code(),
+                                hit.band.technologyName(),
+                                hit.band.name(),
+                                {linkWord(hit.link), linkShort(hit.link)},
+                                hit.channel,
+                                hit.channelMHz,
+                                hit.offsetMHz};
         }
-        if (hits.isEmpty())
-            out.notes << QLatin1String("no band holds ") + cut(args[i].trimmed())
+        if (out.rows.size() == before)
+            out.notes << QLatin1String("no band holds ") + cut(arg.trimmed())
                              + QLatin1String(" MHz");
-        results.append(QJsonObject{{QStringLiteral("mhz"), f}, {QStringLiteral("hits"), hits}});
     }
-    out.json.insert(QStringLiteral("results"), results);
-    if (table.rowCount() == 0) {
+    if (out.rows.isEmpty())
         out.status = ExitNoResult;
-        return out;
-    }
-    out.text = table.render();
     return out;
 }
 
 Outcome runChannels(const QStringList &args, const CommandOptions &options)
 {
-    const BandRef band = resolveBand(args[0]);
+    const Band band = parseBand(args[0]);
     const double low = parseMHz(args[1]);
     const double high = parseMHz(args[2]);
     if (low > high)
         throw BadInput(QLatin1String("the window ") + cut(args[1].trimmed()) + QLatin1String(" to ")
                        + cut(args[2].trimmed()) + QLatin1String(" MHz is empty: LOW exceeds HIGH"));
 
-    Outcome out;
-    TextTable table({QStringLiteral("DIR"), QStringLiteral("FIRST"), QStringLiteral("LAST"),
-                     QStringLiteral("COUNT"), QStringLiteral("FIRST MHZ"),
-                     QStringLiteral("LAST MHZ")});
-    table.alignRight(1);
-    table.alignRight(2);
-    table.alignRight(3);
-    QJsonArray directions;
-    for (int link : linksFor(band, options)) {
+    Outcome out = bandOutcome(band, "runs");
+    out.heading += QLatin1String(", ") + formatMHz(low) + QLatin1String(" to ") + formatMHz(high)
+                   + QLatin1String(" MHz");
+    out.json.insert(QStringLiteral("lowMHz"), low);
+    out.json.insert(QStringLiteral("highMHz"), high);
+    out.columns = {{"DIR", "direction"},     {"FIRST", "first", true},  {"LAST", "last", true},
+                   {"COUNT", "count", true}, {"FIRST MHZ", "firstMHz"}, {"LAST MHZ", "lastMHz"}};
+    for (Link link : linksFor(band, options)) {
         // Every record of the link, not only the first: E-GSM 900's uplink
         // has two channel ranges.
         QMap<int, double> inside;
-        for (const stSubBand *r : recordsFor(band, link)) {
-            for (qint64 ch = r->StartChannelNo; ch <= r->StopChannelNo; ++ch) {
-                const double mhz = recordFreq(*r, int(ch));
-                if (mhz >= low && mhz <= high && !inside.contains(int(ch)))
-                    inside.insert(int(ch), mhz);
+        for (const Record &r : band.records(link)) {
+            for (qint64 channel = r.firstChannel; channel <= r.lastChannel; ++channel) {
+                for (double mhz : band.frequencies(link, int(channel))) {
+                    if (mhz >= low && mhz <= high && !inside.contains(int(channel)))
+                        inside.insert(int(channel), mhz);
+                }
             }
         }
-        if (inside.isEmpty())
-            continue;
-        QJsonArray runs, list;
-        auto start = inside.constBegin();
-        for (auto it = inside.constBegin(); it != inside.constEnd(); ++it) {
-            list.append(it.key());
-            auto next = std::next(it);
+        // Runs of consecutive channels.
+        for (auto start = inside.constBegin(), it = start; it != inside.constEnd(); ++it) {
+            const auto next = std::next(it);
             if (next != inside.constEnd() && next.key() == it.key() + 1)
                 continue;
-            const int count = it.key() - start.key() + 1;
-            table.addRow({linkShort(link), QString::number(start.key()), QString::number(it.key()),
-                          QString::number(count), formatMHz(start.value()), formatMHz(it.value())});
-            runs.append(QJsonObject{{QStringLiteral("first"), start.key()},
-                                    {QStringLiteral("last"), it.key()},
-                                    {QStringLiteral("count"), count},
-                                    {QStringLiteral("firstMHz"), start.value()},
-                                    {QStringLiteral("lastMHz"), it.value()}});
+            out.rows << Row{{linkWord(link), linkShort(link)}, start.key(),   it.key(),
+                            it.key() - start.key() + 1,        start.value(), it.value()};
             start = next;
         }
-        directions.append(QJsonObject{{QStringLiteral("direction"), linkWord(link)},
-                                      {QStringLiteral("runs"), runs},
-                                      {QStringLiteral("channels"), list}});
     }
-    out.json.insert(QStringLiteral("band"), band.toJson());
-    out.json.insert(QStringLiteral("lowMHz"), low);
-    out.json.insert(QStringLiteral("highMHz"), high);
-    out.json.insert(QStringLiteral("directions"), directions);
-    if (directions.isEmpty()) {
+    if (out.rows.isEmpty()) {
         out.status = ExitNoResult;
         out.notes << QLatin1String("no channel of ") + band.standard()
                          + QLatin1String(" lies between ") + cut(args[1].trimmed())
                          + QLatin1String(" and ") + cut(args[2].trimmed()) + QLatin1String(" MHz");
-        return out;
     }
-    out.text = bandTitle(band) + QLatin1String(", ") + formatMHz(low) + QLatin1String(" to ")
-               + formatMHz(high) + QLatin1String(" MHz\n") + table.render();
     return out;
 }
 
@@ -483,6 +439,11 @@ QStringList rangeLines(const QString &text)
                                     : text.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
 }
 
+Cell lines(const QStringList &list)
+{
+    return {QJsonArray::fromStringList(list), list.join(QLatin1Char('\n'))};
+}
+
 constexpr int kFirstMode = 1;
 constexpr int kLastMode = 23;
 
@@ -490,23 +451,20 @@ constexpr int kLastMode = 23;
 Outcome runModes(const CommandOptions &options)
 {
     Outcome out;
-    TextTable table({QStringLiteral("MODE"), QStringLiteral("TECHNOLOGIES")});
-    table.alignRight(0);
-    QJsonArray modes;
+    out.rowsKey = QStringLiteral("modes");
+    out.columns = {{"MODE", "mode", true}, {"TECHNOLOGIES", "technologies"}};
     for (int mode = kFirstMode; mode <= kLastMode; ++mode) {
         QStringList techs = ChStd::GetBandListByMode(mode, 0, options.link).techList;
         techs.removeDuplicates();
-        table.addRow({QString::number(mode),
-                      techs.isEmpty() ? QStringLiteral("-") : techs.join(QLatin1String(", "))});
-        modes.append(
-            QJsonObject{{QStringLiteral("mode"), mode},
-                        {QStringLiteral("technologies"), QJsonArray::fromStringList(techs)}});
+        out.rows << Row{mode,
+                        {QJsonArray::fromStringList(techs),
+                         techs.isEmpty() ? QStringLiteral("-") : techs.join(QLatin1String(", "))}};
     }
-    out.json.insert(QStringLiteral("modes"), modes);
-    out.text = table.render();
     return out;
 }
 
+// An instrument mode's band table, through the compatible interface: the
+// typed API has no modes.
 Outcome runTable(const QStringList &args, const CommandOptions &options)
 {
     if (args.isEmpty())
@@ -519,90 +477,58 @@ Outcome runTable(const QStringList &args, const CommandOptions &options)
     const stCHList list = ChStd::GetBandListByMode(mode, 0, options.link);
 
     Outcome out;
-    TextTable table({QStringLiteral("TECH"), QStringLiteral("BAND"), QStringLiteral("CHANNELS"),
-                     QStringLiteral("MHZ")});
-    QJsonArray rows;
+    out.json.insert(QStringLiteral("mode"), mode);
+    out.json.insert(QStringLiteral("link"), options.link);
+    out.rowsKey = QStringLiteral("rows");
+    out.columns = {{"TECH", "technology"},
+                   {"BAND", "band"},
+                   {"CHANNELS", "channelRanges"},
+                   {"MHZ", "frequencyRanges"}};
     const int count =
         std::min({list.techList.size(), list.bandList.size(), list.chRangeList.size()});
     for (int i = 0; i < count; ++i) {
         const QString &tech = list.techList[i];
-        const QString &bandName = list.bandList[i];
-        const QStringList channels = rangeLines(list.chRangeList[i]);
-        const QStringList freqs =
-            rangeLines(store().GetFreqRefString_List(tech, bandName, options.link));
-        const int lines = std::max({1, int(channels.size()), int(freqs.size())});
-        for (int line = 0; line < lines; ++line) {
-            table.addRow({line == 0 ? tech : QString(), line == 0 ? bandName : QString(),
-                          channels.value(line), freqs.value(line)});
-        }
-        rows.append(
-            QJsonObject{{QStringLiteral("technology"), tech},
-                        {QStringLiteral("band"), bandName},
-                        {QStringLiteral("channelRanges"), QJsonArray::fromStringList(channels)},
-                        {QStringLiteral("frequencyRanges"), QJsonArray::fromStringList(freqs)}});
+        const QString &band = list.bandList[i];
+        const QString freqs =
+            ChStd::GetChStdPointer()->GetFreqRefString_List(tech, band, options.link);
+        out.rows << Row{tech, band, lines(rangeLines(list.chRangeList[i])),
+                        lines(rangeLines(freqs))};
     }
-    out.json.insert(QStringLiteral("mode"), mode);
-    out.json.insert(QStringLiteral("link"), options.link);
-    out.json.insert(QStringLiteral("rows"), rows);
     if (count == 0) {
         out.status = ExitNoResult;
         out.notes << QStringLiteral("mode %1 has no band table").arg(mode);
-        return out;
     }
-    out.text = table.render();
     return out;
 }
 
 Outcome runWhich(const QStringList &args, const CommandOptions &options)
 {
-    const QList<int> channels = parseChannels(args);
     Outcome out;
-    TextTable table({QStringLiteral("CHANNEL"), QStringLiteral("CODE"), QStringLiteral("TECH"),
-                     QStringLiteral("BAND"), QStringLiteral("DIR"), QStringLiteral("MHZ")});
-    table.alignRight(0);
-    table.alignRight(1);
-    QJsonArray results;
-    for (int channel : channels) {
-        QJsonArray matches;
-        for (int t : techSlots()) {
-            const ChTechnology &tech = store().Technologies[t];
-            for (int b = 0; b < tech.NumBand; ++b) {
-                const BandRef band{t, b};
-                if (band.data().IsGlobal)
-                    continue; // it repeats the records of the other bands
-                for (int link : linksFor(band, options)) {
-                    QList<double> shown;
-                    for (const stSubBand *r : recordsFor(band, link)) {
-                        const double mhz = recordFreq(*r, channel);
-                        if (!holdsChannel(*r, channel) || shown.contains(mhz))
-                            continue;
-                        shown.append(mhz);
-                        table.addRow({QString::number(channel), QString::number(band.code()),
-                                      tech.TechName, band.bandName(), linkShort(link),
-                                      formatMHz(mhz)});
-                        QJsonObject match = band.toJson();
-                        match.insert(QStringLiteral("direction"), linkWord(link));
-                        match.insert(QStringLiteral("mhz"), mhz);
-                        matches.append(match);
-                    }
-                }
+    out.rowsKey = QStringLiteral("results");
+    out.columns = {{"CHANNEL", "channel", true}, {"CODE", "code", true},
+                   {"TECH", "technology"},       {"BAND", "band"},
+                   {"DIR", "direction"},         {"MHZ", "mhz"}};
+    for (const QString &arg : args) {
+        const int channel = parseChannel(arg);
+        const int before = out.rows.size();
+        for (const Band &band : saiskuko::bandsWithChannel(channel)) {
+            for (Link link : linksFor(band, options)) {
+                for (double mhz : band.frequencies(link, channel))
+                    out.rows << Row{channel,
+                                    band.code(),
+                                    band.technologyName(),
+                                    band.name(),
+                                    {linkWord(link), linkShort(link)},
+                                    mhz};
             }
         }
-        if (matches.isEmpty())
+        if (out.rows.size() == before)
             out.notes << QStringLiteral("no band has a channel %1").arg(channel);
-        results.append(QJsonObject{{QStringLiteral("channel"), channel},
-                                   {QStringLiteral("matches"), matches}});
     }
-    out.json.insert(QStringLiteral("results"), results);
-    if (table.rowCount() == 0) {
+    if (out.rows.isEmpty())
         out.status = ExitNoResult;
-        return out;
-    }
-    out.text = table.render();
     return out;
 }
-
-} // namespace
 
 Outcome runChart(const QStringList &args, const CommandOptions &options)
 {
@@ -612,7 +538,7 @@ Outcome runChart(const QStringList &args, const CommandOptions &options)
     if (!(request.lowMHz < request.highMHz))
         throw BadInput(QStringLiteral("chart: LOW must be below HIGH"));
     for (const QString &tech : options.techs)
-        request.techSlots << resolveTech(tech);
+        request.techs << valueOrBadInput(saiskuko::findTechnology(tech));
     for (const QString &mark : options.marks) {
         request.marksMHz << parseMHz(mark);
         if (request.marksMHz.last() < request.lowMHz || request.marksMHz.last() > request.highMHz)
@@ -634,8 +560,8 @@ Outcome runChart(const QStringList &args, const CommandOptions &options)
     }
     const QByteArray svg = chartSvg(layout);
     if (options.outputFile.isEmpty()) {
-        out.text = QString::fromUtf8(svg);
-        out.json.insert(QStringLiteral("svg"), out.text);
+        out.heading = QString::fromUtf8(svg);
+        out.json.insert(QStringLiteral("svg"), out.heading);
         return out;
     }
     QFile file(options.outputFile);
@@ -645,6 +571,8 @@ Outcome runChart(const QStringList &args, const CommandOptions &options)
     out.json.insert(QStringLiteral("file"), options.outputFile);
     return out;
 }
+
+} // namespace
 
 const QList<Command> &commands()
 {

@@ -10,7 +10,7 @@
 // The options a command may read; the program rejects those a command does not take.
 struct CommandOptions
 {
-    QList<int> links; // --ul / --dl (1, 0); empty: every link the band has
+    QList<saiskuko::Link> links; // --ul / --dl; empty: every link the band has
     bool hasPreferred = false;
     int preferred = -1; // --preferred
     int link = 0;       // --link, for table

@@ -4,7 +4,7 @@
 #include "commands.h"
 #include "output.h"
 
-#include <saiskuko/saiskuko.h>
+#include <saiskuko/saiskuko_version.h>
 
 #include <QtCore/QCommandLineParser>
 #include <QtCore/QFile>
@@ -107,9 +107,9 @@ CommandOptions commandOptions(const QCommandLineParser &parser)
     const auto isSet = [&](const char *name) { return parser.isSet(QLatin1String(name)); };
     CommandOptions options;
     if (isSet("ul"))
-        options.links << 1;
+        options.links << saiskuko::Link::Up;
     if (isSet("dl"))
-        options.links << 0;
+        options.links << saiskuko::Link::Down;
     options.nearest = isSet("nearest");
     options.techs = parser.values(QStringLiteral("tech"));
     for (const QString &mark : parser.values(QStringLiteral("mark")))
@@ -223,9 +223,9 @@ int runWords(const QStringList &words, const Run &run)
         const CommandOptions options = commandOptions(parser);
         const Outcome outcome = command->run(arguments, options);
         if (json)
-            writeJson(run, name, arguments, outcome.status, outcome.notes, outcome.json);
-        else
-            run.out << outcome.text;
+            writeJson(run, name, arguments, outcome.status, outcome.notes, outcome.result());
+        else if (outcome.status == ExitOk)
+            run.out << outcome.text();
         for (const QString &note : outcome.notes)
             run.err << run.prefix << note << '\n';
         return outcome.status;

@@ -1,9 +1,96 @@
-// Text for people: MHz, link words, padded tables; where the library's diagnostics go.
+// Text for people and JSON from one set of rows; MHz and link words; where the library's
+// diagnostics go.
 #include "output.h"
 
+#include <saiskuko/saiskuko.h>
+
+#include <QtCore/QJsonArray>
 #include <QtCore/QTextStream>
+#include <QtCore/QVector>
 
 #include <algorithm>
+
+namespace {
+
+QString cellText(const Cell &cell)
+{
+    if (!cell.text.isNull())
+        return cell.text;
+    if (cell.json.isDouble())
+        return formatMHz(cell.json.toDouble());
+    return cell.json.isNull() ? QStringLiteral("-") : cell.json.toString();
+}
+
+// Columns padded to their widest line, two blanks apart, no trailing blanks;
+// a cell of several lines makes its row as tall. Columns without a header are
+// JSON only.
+QString table(const QList<Column> &columns, const QList<Row> &rows)
+{
+    QList<QList<QStringList>> cells; // every row's cells as lines, the header first
+    cells << QList<QStringList>();
+    for (const Column &column : columns)
+        cells[0] << QStringList{column.header};
+    QVector<int> widths(columns.size());
+    for (const Row &row : rows) {
+        cells << QList<QStringList>();
+        for (const Cell &cell : row)
+            cells.last() << cellText(cell).split(QLatin1Char('\n'));
+    }
+    for (const QList<QStringList> &row : cells) {
+        for (int c = 0; c < columns.size(); ++c) {
+            for (const QString &line : row[c])
+                widths[c] = std::max(widths[c], int(line.size()));
+        }
+    }
+    QString out;
+    for (const QList<QStringList> &row : cells) {
+        int height = 0;
+        for (const QStringList &lines : row)
+            height = std::max(height, int(lines.size()));
+        for (int i = 0; i < height; ++i) {
+            QStringList parts;
+            for (int c = 0; c < columns.size(); ++c) {
+                if (columns[c].header.isEmpty())
+                    continue;
+                const QString line = row[c].value(i);
+                parts << (columns[c].right ? line.rightJustified(widths[c])
+                                           : line.leftJustified(widths[c]));
+            }
+            QString text = parts.join(QLatin1String("  "));
+            while (text.endsWith(QLatin1Char(' ')))
+                text.chop(1);
+            out += text + QLatin1Char('\n');
+        }
+    }
+    return out;
+}
+
+} // namespace
+
+QString Outcome::text() const
+{
+    if (columns.isEmpty())
+        return heading;
+    return (heading.isEmpty() ? QString() : heading + QLatin1Char('\n')) + table(columns, rows);
+}
+
+QJsonObject Outcome::result() const
+{
+    QJsonObject result = json;
+    if (rowsKey.isEmpty())
+        return result;
+    QJsonArray list;
+    for (const Row &row : rows) {
+        QJsonObject object;
+        for (int c = 0; c < columns.size(); ++c) {
+            if (!columns[c].key.isEmpty())
+                object.insert(columns[c].key, row[c].json);
+        }
+        list.append(object);
+    }
+    result.insert(rowsKey, list);
+    return result;
+}
 
 QString formatMHz(double mhz)
 {
@@ -28,47 +115,66 @@ QString echoed(const QString &text)
     return QLatin1Char('"') + cut(text) + QLatin1Char('"');
 }
 
-QJsonValue jsonNumberOrNull(bool present, double value)
+QString linkShort(saiskuko::Link link)
 {
-    return present ? QJsonValue(value) : QJsonValue(QJsonValue::Null);
+    return link == saiskuko::Link::Up ? QStringLiteral("UL") : QStringLiteral("DL");
 }
 
-QString linkShort(int link)
+QString linkWord(saiskuko::Link link)
 {
-    return link == 1 ? QStringLiteral("UL") : QStringLiteral("DL");
+    return link == saiskuko::Link::Up ? QStringLiteral("uplink") : QStringLiteral("downlink");
 }
 
-QString linkWord(int link)
+QString bandTitle(const saiskuko::Band &band)
 {
-    return link == 1 ? QStringLiteral("uplink") : QStringLiteral("downlink");
+    return band.standard() + QStringLiteral(" [%1]").arg(band.code());
 }
 
-QString TextTable::render() const
+QJsonObject bandJson(const saiskuko::Band &band)
 {
-    QList<int> widths;
-    for (const QStringList &row : m_rows) {
-        for (int c = 0; c < row.size(); ++c) {
-            if (c == widths.size())
-                widths.append(0);
-            widths[c] = std::max(widths[c], int(row[c].size()));
+    return {{QStringLiteral("code"), band.code()},
+            {QStringLiteral("technology"), band.technologyName()},
+            {QStringLiteral("band"), band.name()},
+            {QStringLiteral("duplex"), saiskuko::duplexName(band.duplex())}};
+}
+
+namespace {
+
+const ChBand &registered(const saiskuko::Band &band)
+{
+    return ChStd::GetChStdPointer()->Technologies[band.code() / 100].Bands[band.code() % 100];
+}
+
+bool sameRecord(const saiskuko::Record &r, const stSubBand &s)
+{
+    return int(r.link) == s.Link && r.firstChannel == s.StartChannelNo
+           && r.lastChannel == s.StopChannelNo && r.lowEdgeMHz == s.StartFreq
+           && r.highEdgeMHz == s.StopFreq;
+}
+
+} // namespace
+
+QList<saiskuko::Record> recordsInOrder(const saiskuko::Band &band)
+{
+    // A record serving both links (TDD, n78's in the global band) is in both lists.
+    QList<saiskuko::Record> records =
+        band.records(saiskuko::Link::Up) + band.records(saiskuko::Link::Down);
+    QList<saiskuko::Record> ordered;
+    const ChBand &data = registered(band);
+    for (int i = 0; i < data.NumSubBand && i < ChBand::MaxSubBands; ++i) {
+        for (int k = 0; k < records.size(); ++k) {
+            if (sameRecord(records[k], data.SubBands[i])) {
+                ordered << records.takeAt(k);
+                break;
+            }
         }
     }
-    QString out;
-    for (const QStringList &row : m_rows) {
-        QString line;
-        for (int c = 0; c < row.size(); ++c) {
-            if (c > 0)
-                line += QLatin1String("  ");
-            if (m_right.contains(c))
-                line += row[c].rightJustified(widths[c]);
-            else
-                line += row[c].leftJustified(widths[c]);
-        }
-        while (line.endsWith(QLatin1Char(' ')))
-            line.chop(1);
-        out += line + QLatin1Char('\n');
-    }
-    return out;
+    return ordered;
+}
+
+int registeredRecordCount(const saiskuko::Band &band)
+{
+    return registered(band).NumSubBand;
 }
 
 namespace {

@@ -1,6 +1,8 @@
 #ifndef SAISKUKO_TOOLS_OUTPUT_H
 #define SAISKUKO_TOOLS_OUTPUT_H
 
+#include <saiskuko/bandplan.h>
+
 #include <QtCore/QJsonObject>
 #include <QtCore/QJsonValue>
 #include <QtCore/QList>
@@ -8,6 +10,7 @@
 #include <QtCore/QStringList>
 
 #include <stdexcept>
+#include <utility>
 
 // Exit statuses of the program.
 enum ExitStatus { ExitOk = 0, ExitNoResult = 1, ExitBadInput = 2, ExitWriteFailed = 3 };
@@ -25,14 +28,60 @@ private:
     QString m_message;
 };
 
-// What a command produced: text for people or a JSON document, the exit
-// status, and notes (the "no result" explanations) for stderr.
+// The value of a typed API result, or BadInput with its message.
+template <typename T>
+T valueOrBadInput(const saiskuko::Result<T> &result)
+{
+    if (!result.ok())
+        throw BadInput(result.error().message);
+    return result.value();
+}
+
+// A column of a command's rows: its header in the text table and its key in
+// the JSON row objects. A column without a header is JSON only, one without
+// a key text only.
+struct Column
+{
+    Column(const char *header, const char *key, bool right = false)
+        : header(QLatin1String(header)), key(QLatin1String(key)), right(right)
+    {}
+    Column(QString header, QString key, bool right = false)
+        : header(std::move(header)), key(std::move(key)), right(right)
+    {}
+    QString header;
+    QString key;
+    bool right; // aligned right (numbers)
+};
+
+// One cell: its JSON value, and the text shown for it where that is not the
+// value itself (null shows "-", a number as formatMHz does, a string as it is).
+// Text may hold several lines.
+struct Cell
+{
+    template <typename Value>
+    Cell(const Value &value, QString text = QString()) // NOLINT(google-explicit-constructor)
+        : json(value), text(std::move(text))
+    {}
+    QJsonValue json;
+    QString text;
+};
+using Row = QList<Cell>;
+
+// What a command produced: a heading and rows, shown as text for people or
+// as one JSON object; the exit status; and notes (the "no result"
+// explanations) for stderr.
 struct Outcome
 {
-    QString text;
-    QJsonObject json;
+    QString heading;  // the line above the table; without columns, the whole text
+    QJsonObject json; // the result's members besides the rows
+    QString rowsKey;  // the member holding the rows
+    QList<Column> columns;
+    QList<Row> rows;
     int status = ExitOk;
     QStringList notes;
+
+    QString text() const;
+    QJsonObject result() const;
 };
 
 // MHz for people: rounded to 1 Hz, trailing zeros dropped. Every raster of
@@ -45,32 +94,26 @@ QString formatMHz(double mhz);
 QString cut(const QString &text);
 QString echoed(const QString &text);
 
-// A number for JSON, or null for "not in band".
-QJsonValue jsonNumberOrNull(bool present, double value);
+// "UL"/"DL" for text, "uplink"/"downlink" for JSON.
+QString linkShort(saiskuko::Link link);
+QString linkWord(saiskuko::Link link);
 
-// "UL"/"DL" for text, "uplink"/"downlink" for JSON; link 1 is uplink.
-QString linkShort(int link);
-QString linkWord(int link);
+// "LTE-FDD - Band 1 (2100) [201]", and the band's JSON: code, technology,
+// band, duplex.
+QString bandTitle(const saiskuko::Band &band);
+QJsonObject bandJson(const saiskuko::Band &band);
+
+// Band facts the typed API does not give yet, read through the compatible
+// interface: every real record once, in registration order; and the number of
+// records the band was registered with, placeholders for a missing link
+// included.
+QList<saiskuko::Record> recordsInOrder(const saiskuko::Band &band);
+int registeredRecordCount(const saiskuko::Band &band);
 
 // The library's own diagnostics (its log lines) go to the error stream given
 // here, or nowhere (the default; --verbose shows them).
 class QTextStream;
 void setLibraryDiagnostics(QTextStream *err);
 void libraryDiagnostic(const QString &text);
-
-// Columns padded to their widest cell, two blanks apart, no trailing blanks.
-class TextTable
-{
-public:
-    explicit TextTable(const QStringList &header) : m_rows({header}) {}
-    void addRow(const QStringList &row) { m_rows.append(row); }
-    void alignRight(int column) { m_right.append(column); }
-    int rowCount() const { return m_rows.size() - 1; }
-    QString render() const;
-
-private:
-    QList<QStringList> m_rows;
-    QList<int> m_right;
-};
 
 #endif

@@ -1,8 +1,9 @@
 // The program's pages: help text, man page and bash completion, from its command and option tables.
 #include "program.h"
 
-#include "bandname.h"
 #include "commands.h"
+
+#include <saiskuko/bandplan.h>
 
 #include <saiskuko/saiskuko_version.h>
 
@@ -116,10 +117,8 @@ namespace {
 QStringList bandShortNames()
 {
     QStringList names;
-    for (int t : techSlots()) {
-        for (int b = 0; b < store().Technologies[t].NumBand; ++b)
-            names << shortName(BandRef{t, b});
-    }
+    for (const saiskuko::Band &band : saiskuko::allBands())
+        names << band.shortName();
     names.removeAll(QString());
     return names;
 }
@@ -137,8 +136,9 @@ QString completionText()
                 optionNames << QLatin1String("--") + name;
         }
     }
-    for (int t : techSlots())
-        techs << techName(t).replace(QLatin1Char(' '), QLatin1String("\\\\ ")) << techAliases(t);
+    for (saiskuko::Technology tech : saiskuko::technologies())
+        techs << saiskuko::technologyName(tech).replace(QLatin1Char(' '), QLatin1String("\\\\ "))
+              << saiskuko::technologyShortForms(tech);
     techs.removeDuplicates();
     QString text = QStringLiteral(
         "# bash completion for saiskuko\n"

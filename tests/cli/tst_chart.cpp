@@ -22,12 +22,13 @@ QList<ChartBox> textBoxes(const ChartLayout &layout)
     return boxes;
 }
 
-ChartLayout chart(double low, double high, QList<int> techs = {}, QList<double> marks = {})
+ChartLayout chart(double low, double high, QList<saiskuko::Technology> techs = {},
+                  QList<double> marks = {})
 {
     ChartRequest request;
     request.lowMHz = low;
     request.highMHz = high;
-    request.techSlots = techs;
+    request.techs = techs;
     request.marksMHz = marks;
     return layoutChart(request);
 }
@@ -71,11 +72,12 @@ private slots:
         QTest::addColumn<int>("tech");
         QTest::addColumn<QString>("rows");
         // P-GSM's uplink starts at 890: touching the window's edge is not in it.
-        QTest::newRow("GSM") << 880.0 << 890.0 << int(SlotGsm)
+        QTest::newRow("GSM") << 880.0 << 890.0 << int(saiskuko::Technology::Gsm)
                              << "GSM 850 [102] D|E-GSM 900 [104] U|R-GSM 900 [105] U|"
                                 "R-GSM 900 (China) [106] U";
-        QTest::newRow("LTE-TDD") << 2310.0 << 2390.0 << int(SlotLteTdd) << "Band 40 (2300) [308] T";
-        QTest::newRow("NR") << 3400.0 << 3405.0 << int(SlotNr)
+        QTest::newRow("LTE-TDD") << 2310.0 << 2390.0 << int(saiskuko::Technology::LteTdd)
+                                 << "Band 40 (2300) [308] T";
+        QTest::newRow("NR") << 3400.0 << 3405.0 << int(saiskuko::Technology::Nr)
                             << "Band n77 (TD 3700) [723] T|Band n78 (TD 3500) [724] T";
     }
     void rows()
@@ -84,7 +86,7 @@ private slots:
         QFETCH(double, high);
         QFETCH(int, tech);
         QStringList rows;
-        for (const ChartRow &row : chart(low, high, {tech}).rows) {
+        for (const ChartRow &row : chart(low, high, {saiskuko::Technology(tech)}).rows) {
             rows << row.label + QLatin1Char(' ');
             for (const ChartBar &bar : row.bars)
                 rows.last() += QLatin1Char("UDT"[int(bar.kind)]);
@@ -101,7 +103,7 @@ private slots:
         QList<int> codes;
         for (const ChartRow &row : layout.rows) {
             codes << row.band.code();
-            QVERIFY(!isGlobalBandName(row.band.bandName()));
+            QVERIFY(!row.band.isGlobal());
             QVERIFY(row.labelBox.right() < layout.plot.x);
             for (const ChartBar &bar : row.bars) {
                 QVERIFY(bar.box.x >= layout.plot.x && bar.box.right() <= layout.plot.right() + 1);
@@ -109,13 +111,8 @@ private slots:
                 QVERIFY(!bar.title.isEmpty());
             }
         }
-        for (int t : techSlots())
-            for (int b = 0; b < store().Technologies[t].NumBand; ++b) {
-                const ChBand &band = store().Technologies[t].Bands[b];
-                const bool real = std::any_of(band.SubBands, band.SubBands + recordCount(band),
-                                              [](const stSubBand &r) { return !isPlaceholder(r); });
-                QCOMPARE(codes.contains(100 * t + b), real && !isGlobalBandName(band.BandName));
-            }
+        for (const saiskuko::Band &band : saiskuko::allBands())
+            QCOMPARE(codes.contains(band.code()), !band.links().isEmpty() && !band.isGlobal());
         const QList<ChartBox> boxes = textBoxes(layout);
         for (int i = 0; i < boxes.size(); ++i)
             for (int j = i + 1; j < boxes.size(); ++j)
@@ -126,7 +123,7 @@ private slots:
 
     void markListsTheSearchHits()
     {
-        const ChartLayout layout = chart(700, 1000, {SlotLteFdd}, {881.5});
+        const ChartLayout layout = chart(700, 1000, {saiskuko::Technology::LteFdd}, {881.5});
         QCOMPARE(layout.marks.size(), 1);
         const QStringList lines = layout.marks[0].lines;
         QCOMPARE(lines.first(), QStringLiteral("881.5 MHz"));
