@@ -109,11 +109,8 @@ Outcome runTechs(const QStringList &, const CommandOptions &)
 {
     Outcome out;
     out.rowsKey = QStringLiteral("technologies");
-    out.columns = {{"SLOT", "slot", true},
-                   {"TECH", "name"},
-                   {"BANDS", "bands", true},
-                   {"INT BW HZ", "defaultIntegrationBandwidthHz", true},
-                   {"SHORT", "shortForms"}};
+    out.columns = columns({">SLOT|slot", "TECH|name", ">BANDS|bands",
+                           ">INT BW HZ|defaultIntegrationBandwidthHz", "SHORT|shortForms"});
     for (saiskuko::Technology tech : saiskuko::technologies()) {
         const QStringList forms = saiskuko::technologyShortForms(tech);
         // The compatible interface's bandwidth: it falls back to 1 MHz for 5G NR.
@@ -134,17 +131,9 @@ Outcome runBands(const QStringList &args, const CommandOptions &)
     Outcome out;
     out.json.insert(QStringLiteral("technology"), saiskuko::technologyName(tech));
     out.rowsKey = QStringLiteral("bands");
-    out.columns = {{"CODE", "code", true},
-                   {"BAND", "band"},
-                   {"UL CHANNELS", "uplink"},
-                   {"UL MHZ", ""},
-                   {"DL CHANNELS", "downlink"},
-                   {"DL MHZ", ""},
-                   {"RECORDS", "records", true},
-                   {"DUPLEX", "duplex"},
-                   {"", "technology"},
-                   {"", "standard"},
-                   {"", "global"}};
+    out.columns = columns({">CODE|code", "BAND|band", "UL CHANNELS|uplink", "UL MHZ|",
+                           "DL CHANNELS|downlink", "DL MHZ|", ">RECORDS|records", "DUPLEX|duplex",
+                           "|technology", "|standard", "|global"});
     for (const Band &band : saiskuko::bands(tech)) {
         Row row{band.code(), band.name()};
         for (Link link : {Link::Up, Link::Down}) {
@@ -174,14 +163,9 @@ Outcome runBand(const QStringList &args, const CommandOptions &)
 {
     const Band band = parseBand(args[0]);
     Outcome out = bandOutcome(band, "records");
-    out.columns = {{"DIR", "direction"},
-                   {"CHANNELS", "channels"},
-                   {"EDGES MHZ", "edgesMHz"},
-                   {"FIRST MHZ", "firstMHz"},
-                   {"LAST MHZ", "lastMHz"},
-                   {"STEP MHZ", "stepMHz"},
-                   {"DUPLEX", ""},
-                   {"PAIR OFFSET", "pairOffset", true}};
+    out.columns =
+        columns({"DIR|direction", "CHANNELS|channels", "EDGES MHZ|edgesMHz", "FIRST MHZ|firstMHz",
+                 "LAST MHZ|lastMHz", "STEP MHZ|stepMHz", "DUPLEX|", ">PAIR OFFSET|pairOffset"});
     for (const Record &r : recordsInOrder(band)) {
         const saiskuko::Result<int> paired = band.pairedChannel(r.link, r.firstChannel);
         const int offset = (paired.value() - r.firstChannel) * (r.link == Link::Up ? -1 : 1);
@@ -226,11 +210,11 @@ Outcome runFreq(const QStringList &args, const CommandOptions &options)
     const bool paired = band.duplex() == Duplex::Fdd;
 
     Outcome out = bandOutcome(band, "results");
-    out.columns << Column{"CHANNEL", "channel"};
+    out.columns = columns({"CHANNEL|channel"});
     for (Link link : links)
         out.columns << Column{linkShort(link) + QLatin1String(" MHZ"), linkWord(link)};
     if (paired)
-        out.columns << Column{"PAIRED", "paired"};
+        out.columns << columns({"PAIRED|paired"});
     bool any = false;
     for (int channel : channels) {
         Row row{channel};
@@ -294,7 +278,7 @@ Outcome runChannel(const QStringList &args, const CommandOptions &options)
     out.json.insert(QStringLiteral("preferred"),
                     options.hasPreferred ? QJsonValue(options.preferred) : QJsonValue());
     out.json.insert(QStringLiteral("nearest"), options.nearest);
-    out.columns << Column{"MHZ", "mhz"};
+    out.columns = columns({"MHZ|mhz"});
     for (Link link : links) {
         out.columns << Column{linkShort(link) + QLatin1String(" CHANNEL"), linkWord(link)};
         if (options.nearest)
@@ -354,14 +338,8 @@ Outcome runSearch(const QStringList &args, const CommandOptions &options)
 {
     Outcome out;
     out.rowsKey = QStringLiteral("results");
-    out.columns = {{"MHZ", "mhz"},
-                   {"CODE", "code", true},
-                   {"TECH", "technology"},
-                   {"BAND", "band"},
-                   {"DIR", "direction"},
-                   {"CHANNEL", "channel", true},
-                   {"CHANNEL MHZ", "channelMHz"},
-                   {"OFFSET MHZ", "offsetMHz"}};
+    out.columns = columns({"MHZ|mhz", ">CODE|code", "TECH|technology", "BAND|band", "DIR|direction",
+                           ">CHANNEL|channel", "CHANNEL MHZ|channelMHz", "OFFSET MHZ|offsetMHz"});
     for (const QString &arg : args) {
         const double mhz = parseMHz(arg);
         const int before = out.rows.size();
@@ -399,8 +377,8 @@ Outcome runChannels(const QStringList &args, const CommandOptions &options)
                    + QLatin1String(" MHz");
     out.json.insert(QStringLiteral("lowMHz"), low);
     out.json.insert(QStringLiteral("highMHz"), high);
-    out.columns = {{"DIR", "direction"},     {"FIRST", "first", true},  {"LAST", "last", true},
-                   {"COUNT", "count", true}, {"FIRST MHZ", "firstMHz"}, {"LAST MHZ", "lastMHz"}};
+    out.columns = columns({"DIR|direction", ">FIRST|first", ">LAST|last", ">COUNT|count",
+                           "FIRST MHZ|firstMHz", "LAST MHZ|lastMHz"});
     for (Link link : linksFor(band, options)) {
         // Every record of the link, not only the first: E-GSM 900's uplink
         // has two channel ranges.
@@ -452,7 +430,7 @@ Outcome runModes(const CommandOptions &options)
 {
     Outcome out;
     out.rowsKey = QStringLiteral("modes");
-    out.columns = {{"MODE", "mode", true}, {"TECHNOLOGIES", "technologies"}};
+    out.columns = columns({">MODE|mode", "TECHNOLOGIES|technologies"});
     for (int mode = kFirstMode; mode <= kLastMode; ++mode) {
         QStringList techs = ChStd::GetBandListByMode(mode, 0, options.link).techList;
         techs.removeDuplicates();
@@ -480,10 +458,8 @@ Outcome runTable(const QStringList &args, const CommandOptions &options)
     out.json.insert(QStringLiteral("mode"), mode);
     out.json.insert(QStringLiteral("link"), options.link);
     out.rowsKey = QStringLiteral("rows");
-    out.columns = {{"TECH", "technology"},
-                   {"BAND", "band"},
-                   {"CHANNELS", "channelRanges"},
-                   {"MHZ", "frequencyRanges"}};
+    out.columns =
+        columns({"TECH|technology", "BAND|band", "CHANNELS|channelRanges", "MHZ|frequencyRanges"});
     const int count =
         std::min({list.techList.size(), list.bandList.size(), list.chRangeList.size()});
     for (int i = 0; i < count; ++i) {
@@ -505,9 +481,8 @@ Outcome runWhich(const QStringList &args, const CommandOptions &options)
 {
     Outcome out;
     out.rowsKey = QStringLiteral("results");
-    out.columns = {{"CHANNEL", "channel", true}, {"CODE", "code", true},
-                   {"TECH", "technology"},       {"BAND", "band"},
-                   {"DIR", "direction"},         {"MHZ", "mhz"}};
+    out.columns = columns({">CHANNEL|channel", ">CODE|code", "TECH|technology", "BAND|band",
+                           "DIR|direction", "MHZ|mhz"});
     for (const QString &arg : args) {
         const int channel = parseChannel(arg);
         const int before = out.rows.size();
@@ -583,7 +558,7 @@ const QList<Command> &commands()
          runBand},
         {"freq", "BAND CHANNEL...", "centre frequency of each channel, per direction", 2, -1,
          "ul dl", runFreq},
-        {"channel", "BAND MHZ...", "channel centred on MHZ (or the nearest), per direction", 2, -1,
+        {"channel", "BAND MHZ...", "channels centred on MHZ (or the nearest), per direction", 2, -1,
          "ul dl preferred nearest", runChannel},
         {"search", "MHZ...", "bands holding MHZ, nearest channel first", 1, -1, "ul dl", runSearch},
         {"channels", "BAND LOW HIGH", "channels of a band centred in LOW..HIGH MHz", 3, 3, "ul dl",
@@ -606,7 +581,8 @@ const QList<ProgramOption> &programOptions()
         {"ul", nullptr, "only uplink (freq, channel, search, channels, which);\n"
                         "default: every direction the band has", false, false},
         {"dl", nullptr, "only downlink", false, false},
-        {"preferred", "N", "channel: keep channel N where the frequency has several", false, false},
+        {"preferred", "N", "channel: show only channel N where the frequency has several\n"
+                            "(JSON still lists them all)", false, false},
         {"nearest", nullptr, "channel: the nearest channel of each direction and its\n"
                              "offset, for a frequency off the raster", false, false},
         {"link", "0|1", "table: 0 downlink ranges (default), 1 uplink ranges", false, false},

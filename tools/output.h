@@ -9,6 +9,7 @@
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 
+#include <initializer_list>
 #include <stdexcept>
 #include <utility>
 
@@ -42,16 +43,13 @@ T valueOrBadInput(const saiskuko::Result<T> &result)
 // a key text only.
 struct Column
 {
-    Column(const char *header, const char *key, bool right = false)
-        : header(QLatin1String(header)), key(QLatin1String(key)), right(right)
-    {}
-    Column(QString header, QString key, bool right = false)
-        : header(std::move(header)), key(std::move(key)), right(right)
-    {}
     QString header;
     QString key;
-    bool right; // aligned right (numbers)
+    bool right = false; // aligned right (numbers)
 };
+
+// Columns written "HEADER|key", ">HEADER|key" for one aligned right.
+QList<Column> columns(std::initializer_list<const char *> specs);
 
 // One cell: its JSON value, and the text shown for it where that is not the
 // value itself (null shows "-", a number as formatMHz does, a string as it is).
