@@ -276,7 +276,7 @@ private slots:
                      + paired(n75, Link::Down, 290000) + paired(band("bc0"), Link::Down, 300)
                      + paired(Band(), Link::Down, 300) + paired(n75, Link::Up, 290000),
                  str("!ChannelNotInBand!NoPairedChannel!NoPairedChannel!NoPairedChannel"
-                     "!UnknownBand!LinkNotServed"));
+                     "!UnknownBand!ChannelNotInBand"));
         QCOMPARE(lte1.frequency(Link::Down, 700).error().message,
                  str("channel 700 is not a downlink channel of LTE-FDD - Band 1 (2100); "
                      "channels: 0-599"));
