@@ -328,8 +328,8 @@ Result<double> Band::frequency(Link link, int channel) const
 {
     const ChBand *data = bandData(*this);
     if (Q_LIKELY(data)) {
-        const bool tdd = cachedDuplex(m_tech, m_band, *data) == Duplex::Tdd;
         const int n = recordCount(*data);
+        const bool tdd = cachedDuplex(m_tech, m_band, *data, n) == Duplex::Tdd;
         for (int i = 0; i < n; ++i) {
             const stSubBand &r = data->SubBands[i];
             if (holdsChannel(r, channel) && !isPlaceholder(r)
