@@ -1,8 +1,7 @@
 // The uplink/downlink channel offset of a band: GetOffsetChUpDown.
 #include <saiskuko/chbandstore.h>
 
-#include "store/enumeratorquery.h"
-#include "store/namelookup.h"
+#include "store/chbandstore_p.h"
 #include "store/recordrules.h"
 #include "store/standardtext.h"
 #include "store/technologies.h"

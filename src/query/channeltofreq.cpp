@@ -1,9 +1,7 @@
 // Channel to frequency: GetFreq, GetFreqNoLimit, IsExistChannelNo, GetStopChannelNo_InSample.
 #include <saiskuko/chbandstore.h>
 
-#include "store/bandnamefacts.h"
-#include "store/enumeratorquery.h"
-#include "store/namelookup.h"
+#include "store/chbandstore_p.h"
 #include "store/recordrules.h"
 #include "store/standardtext.h"
 

@@ -2,11 +2,9 @@
 #include <saiskuko/chbandstore.h>
 
 #include "bandplan/channelsearch.h"
+#include "store/chbandstore_p.h"
 #include "store/diagnostics.h"
-#include "store/enumeratorquery.h"
-#include "store/namelookup.h"
 #include "store/recordrules.h"
-#include "store/searchindex.h"
 #include "store/standardtext.h"
 
 #include <cmath>

@@ -1,16 +1,11 @@
 // Band limits: edges, first and last channels, record counts, uplink-only flags, bandwidths.
 #include <saiskuko/chbandstore.h>
 
-#include "store/enumeratorquery.h"
-#include "store/namelookup.h"
+#include "store/chbandstore_p.h"
 #include "store/recordrules.h"
 #include "store/technologies.h"
 
 #include <functional>
-
-// The forms by enumerator fail (after the warning) with values that differ
-// from the name forms' empty answers, so that callers can tell a bad code
-// from an empty band.
 
 namespace {
 
