@@ -7,10 +7,6 @@
 #include "store/technologies.h"
 #include "store/wrapping.h"
 
-namespace {
-
-// bandText is the band name as the caller gave it; the time-division WiMAX
-// profiles are told by it.
 int offsetChUpDownIn(int t, const ChBand &b, const QString &bandText, int channel)
 {
     // Time-division standards share channel numbers between the directions.
@@ -33,8 +29,6 @@ int offsetChUpDownIn(int t, const ChBand &b, const QString &bandText, int channe
     }
     return 0;
 }
-
-} // namespace
 
 int ChBandStore::GetOffsetChUpDown(QString tech, QString band, int channel, int /*link*/) const
 {

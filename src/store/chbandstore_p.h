@@ -169,6 +169,11 @@ private:
     static KnownRecords s_known[ChBandStore::MaxTechnologies][ChTechnology::MaxBands];
 };
 
+// The uplink-to-downlink channel offset of a band in technology slot t
+// (GetOffsetChUpDown); bandText is the band name as the caller gave it, by
+// which the time-division WiMAX profiles are told.
+int offsetChUpDownIn(int t, const ChBand &b, const QString &bandText, int channel);
+
 // How the queries by channel standard enumerator reach their band. Their
 // failure values (after the warning) differ from the name forms' empty
 // answers, so that callers can tell a bad code from an empty band.

@@ -2,8 +2,7 @@
 #include "typedapi/typedapi_p.h"
 
 #include "bandplan/channelsearch.h"
-#include "query/bandqueries.h"
-#include "store/searchindex.h"
+#include "store/chbandstore_p.h"
 
 #include <cmath>
 #include <limits>
