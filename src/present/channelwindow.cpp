@@ -2,8 +2,8 @@
 #include <saiskuko/chbandstore.h>
 
 #include "bandplan/channelsearch.h"
+#include "store/chbandstore_p.h"
 #include "store/diagnostics.h"
-#include "store/namelookup.h"
 #include "store/recordrules.h"
 #include "store/standardtext.h"
 

@@ -1,11 +1,11 @@
-// Channel to frequency: conversion, existence of a channel, and the end of its range.
+// Channel to frequency: GetFreq, GetFreqNoLimit, IsExistChannelNo, GetStopChannelNo_InSample.
 #include <saiskuko/chbandstore.h>
 
-#include "query/bandqueries.h"
-#include "store/bandnamefacts.h"
-#include "store/namelookup.h"
+#include "store/chbandstore_p.h"
 #include "store/recordrules.h"
 #include "store/standardtext.h"
+
+namespace {
 
 double freqIn(const ChBand &b, int link, int channel)
 {
@@ -28,6 +28,8 @@ bool channelExistsIn(const ChBand &b, int link, int channel)
     return false;
 }
 
+} // namespace
+
 double ChBandStore::GetFreq(QString tech, QString band, int link, int channel) const
 {
     return freqIn(bandNamed(*this, tech, band), link, channel);
@@ -45,6 +47,13 @@ double ChBandStore::GetFreq(QString standard, QString direction, int channel) co
     return GetFreq(standard, linkOfDirection(direction), channel);
 }
 
+double ChBandStore::GetFreq(int code, int link, int channel) const
+{
+    return AnswerForBand(code, -1.0, [&](int, int, const ChBand &b, const QString &) {
+        return freqIn(b, link, channel);
+    });
+}
+
 double ChBandStore::GetFreqNoLimit(QString tech, QString band, int link, int channel) const
 {
     const ChBand &b = bandNamed(*this, tech, band);
@@ -58,6 +67,13 @@ double ChBandStore::GetFreqNoLimit(QString tech, QString band, int link, int cha
 bool ChBandStore::IsExistChannelNo(QString tech, QString band, int link, int channel) const
 {
     return channelExistsIn(bandNamed(*this, tech, band), link, channel);
+}
+
+bool ChBandStore::IsExistChannelNo(int code, int link, int channel) const
+{
+    return AnswerForBand(code, false, [&](int, int, const ChBand &b, const QString &) {
+        return channelExistsIn(b, link, channel);
+    });
 }
 
 int ChBandStore::GetStopChannelNo_InSample(QString tech, QString band, int channel, int link) const

@@ -1,19 +1,58 @@
-// Frequency to channel: exact raster matches, and the uplink/downlink channel offset.
+// Frequency to channel: GetChNumFromFreq and its search for exact raster matches.
 #include <saiskuko/chbandstore.h>
 
 #include "bandplan/channelsearch.h"
-#include "query/bandqueries.h"
-#include "query/exactmatches.h"
+#include "store/chbandstore_p.h"
 #include "store/diagnostics.h"
-#include "store/namelookup.h"
 #include "store/recordrules.h"
 #include "store/standardtext.h"
-#include "store/technologies.h"
-#include "store/wrapping.h"
 
 #include <cmath>
+#include <limits>
 
 namespace {
+
+// A channel matches when its frequency lies within the double epsilon, as an
+// absolute number of MHz, of the searched one.
+constexpr double kExactMatchTolerance = std::numeric_limits<double>::epsilon();
+
+// The channels whose frequency equals the searched one, in the order a walk
+// would meet them: the first, and whether the caller's preferred channel is
+// among the first ten (later matches can never be returned).
+struct ExactMatches
+{
+    static constexpr int Capacity = 10;
+    int preferred;
+    int first = -1;
+    int count = 0;
+    bool preferredFound = false;
+
+    explicit ExactMatches(int preferredChannel) : preferred(preferredChannel) {}
+
+    void add(int channel)
+    {
+        if (count == Capacity)
+            return;
+        if (count++ == 0)
+            first = channel;
+        preferredFound = preferredFound || channel == preferred;
+    }
+};
+
+inline bool takesPartInSearch(const stSubBand &r, int link, double freqMHz)
+{
+    return servesLink(r, link) && r.StartFreq <= freqMHz && freqMHz <= r.StopFreq;
+}
+
+// A spaced record's one match, if any: a raster frequency is its nearest
+// channel's, and then no other channel of the record can match; an infinite
+// one matches none.
+inline void addNearestMatch(const RecordSearch &facts, double freqMHz, ExactMatches *found)
+{
+    const double steps = facts.nearestSteps(freqMHz);
+    if (std::abs(facts.freqAtSteps(steps) - freqMHz) < kExactMatchTolerance)
+        found->add(static_cast<int>(facts.channelAt(steps)));
+}
 
 // Appends the record's matching channels.
 void collectExactMatches(const stSubBand &r, const RecordSearch &facts, double freqMHz,
@@ -44,8 +83,8 @@ void collectExactMatches(const stSubBand &r, const RecordSearch &facts, double f
     }
 }
 
-} // namespace
-
+// The answer once every record has been searched; writes the console line
+// when nothing matched.
 int answerOf(const ExactMatches &found, double freqMHz)
 {
     if (found.count > 0)
@@ -54,6 +93,8 @@ int answerOf(const ExactMatches &found, double freqMHz)
     return -1;
 }
 
+// Searches every record in order, working its facts out again wherever none
+// are kept or the record changed since.
 int chNumFromFreqByRecords(const ChBand &b, KnownRecords known, int link, double freqMHz,
                            int preferred)
 {
@@ -68,28 +109,38 @@ int chNumFromFreqByRecords(const ChBand &b, KnownRecords known, int link, double
     return answerOf(found, freqMHz);
 }
 
-int offsetChUpDownIn(int t, const ChBand &b, const QString &bandText, int channel)
+// One band; known: what the store keeps of its records for the search. The
+// usual band is answered here, inline in the form by names; every other band
+// takes the general search.
+Q_ALWAYS_INLINE int chNumFromFreqIn(const ChBand &band, KnownRecords known, int link,
+                                    double freqMHz, int preferred)
 {
-    // Time-division standards share channel numbers between the directions.
-    if (t == SlotLteTdd || t == SlotTdScdma)
-        return 0;
-    if (t == SlotWimax && knowsBandAs(SlotWimax, bandText, TimeDivision))
-        return 0;
-
-    const int n = recordCount(b);
-    for (int i = 0; i < n; ++i) {
-        const stSubBand &r = b.SubBands[i];
-        if (!holdsChannel(r, channel))
+    // The usual band: the store keeps every record as it stands, and each
+    // that takes part is spaced.
+    const int n = recordCount(band);
+    if (n > known.count)
+        return chNumFromFreqByRecords(band, known, link, freqMHz, preferred);
+    ExactMatches found(preferred);
+    const RecordSearch *facts = known.records;
+    for (const stSubBand *r = band.SubBands, *end = r + n; r != end; ++r, ++facts) {
+        if (!takesPartInSearch(*r, link, freqMHz))
             continue;
-        // Pairs stand uplink first, downlink second; a record without its
-        // partner has no offset.
-        if (r.Link == 1)
-            return i + 1 < n ? wrappedDifference(r.StartChannelNo, b.SubBands[i + 1].StartChannelNo)
-                             : 0;
-        return i > 0 ? wrappedDifference(b.SubBands[i - 1].StartChannelNo, r.StartChannelNo) : 0;
+        if (!facts->spaced || !facts->describes(*r))
+            return chNumFromFreqByRecords(band, known, link, freqMHz, preferred);
+        addNearestMatch(*facts, freqMHz, &found);
     }
-    return 0;
+    return answerOf(found, freqMHz);
 }
+
+// The same search, called: the quick path of the form by enumerator then
+// stays as small as that of the other forms by enumerator.
+Q_NEVER_INLINE int chNumFromFreqInCalled(const ChBand &band, KnownRecords known, int link,
+                                         double freqMHz, int preferred)
+{
+    return chNumFromFreqIn(band, known, link, freqMHz, preferred);
+}
+
+} // namespace
 
 int ChBandStore::GetChNumFromFreq(QString tech, QString band, int link, double freqMHz,
                                   int preferred) const
@@ -113,20 +164,11 @@ int ChBandStore::GetChNumFromFreq(QString standard, QString direction, double fr
     return GetChNumFromFreq(standard, linkOfDirection(direction), freqMHz, preferred);
 }
 
-int ChBandStore::GetOffsetChUpDown(QString tech, QString band, int channel, int /*link*/) const
+int ChBandStore::GetChNumFromFreq(int code, int link, double freqMHz, int preferred) const
 {
-    const int t = techSlotNamed(*this, tech);
-    return offsetChUpDownIn(t, Technologies[t].Bands[bandSlotNamed(*this, t, band)], band, channel);
-}
-
-int ChBandStore::GetOffsetChUpDown(QString standard, int link, int channel) const
-{
-    return answerForStandard(standard, -1, [&](const QString &tech, const QString &band) {
-        return GetOffsetChUpDown(tech, band, channel, link);
+    // Captured by value: the quick path then keeps them in registers.
+    return AnswerForBand(code, -1, [=](int t, int slot, const ChBand &b, const QString &) {
+        return chNumFromFreqInCalled(b, SearchIndex::find(*this, t, slot), link, freqMHz,
+                                     preferred);
     });
-}
-
-int ChBandStore::GetOffsetChUpDown(QString standard, QString direction, int channel) const
-{
-    return GetOffsetChUpDown(standard, linkOfDirection(direction), channel);
 }

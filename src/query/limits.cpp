@@ -1,8 +1,7 @@
-// Band limits by name: edges, first and last channels, record counts, bandwidths.
+// Band limits: edges, first and last channels, record counts, uplink-only flags, bandwidths.
 #include <saiskuko/chbandstore.h>
 
-#include "query/bandqueries.h"
-#include "store/namelookup.h"
+#include "store/chbandstore_p.h"
 #include "store/recordrules.h"
 #include "store/technologies.h"
 
@@ -33,13 +32,6 @@ double outermostEdge(const ChBand &b, int link, double stSubBand::*edge, Beats b
     return best;
 }
 
-} // namespace
-
-double ChBandStore::GetStartFreq(QString tech, QString band) const
-{
-    return bandNamed(*this, tech, band).SubBands[0].StartFreq;
-}
-
 double startFreqIn(const ChBand &b, int link)
 {
     return outermostEdge(b, link, &stSubBand::StartFreq, std::less<double>());
@@ -48,16 +40,6 @@ double startFreqIn(const ChBand &b, int link)
 double stopFreqIn(const ChBand &b, int link)
 {
     return outermostEdge(b, link, &stSubBand::StopFreq, std::greater<double>());
-}
-
-double ChBandStore::GetStartFreq(QString tech, QString band, int link) const
-{
-    return startFreqIn(bandNamed(*this, tech, band), link);
-}
-
-double ChBandStore::GetStopFreq(QString tech, QString band, int link) const
-{
-    return stopFreqIn(bandNamed(*this, tech, band), link);
 }
 
 int startChannelIn(const ChBand &b, int link)
@@ -101,9 +83,54 @@ int stopChannelIn(const ChBand &b, int link)
     return highest;
 }
 
+} // namespace
+
+double ChBandStore::GetStartFreq(QString tech, QString band) const
+{
+    return bandNamed(*this, tech, band).SubBands[0].StartFreq;
+}
+
+double ChBandStore::GetStartFreq(int code) const
+{
+    return AnswerForBand(code, -1.0, [](int, int, const ChBand &b, const QString &) {
+        return b.SubBands[0].StartFreq;
+    });
+}
+
+double ChBandStore::GetStartFreq(QString tech, QString band, int link) const
+{
+    return startFreqIn(bandNamed(*this, tech, band), link);
+}
+
+double ChBandStore::GetStartFreq(int code, int link) const
+{
+    return AnswerForBand(code, -1.0, [&](int, int, const ChBand &b, const QString &) {
+        return startFreqIn(b, link);
+    });
+}
+
+double ChBandStore::GetStopFreq(QString tech, QString band, int link) const
+{
+    return stopFreqIn(bandNamed(*this, tech, band), link);
+}
+
+double ChBandStore::GetStopFreq(int code, int link) const
+{
+    return AnswerForBand(code, -1.0, [&](int, int, const ChBand &b, const QString &) {
+        return stopFreqIn(b, link);
+    });
+}
+
 int ChBandStore::GetStartChannelNo(QString tech, QString band, int link) const
 {
     return startChannelIn(bandNamed(*this, tech, band), link);
+}
+
+int ChBandStore::GetStartChannelNo(int code, int link) const
+{
+    return AnswerForBand(code, -1, [&](int, int, const ChBand &b, const QString &) {
+        return startChannelIn(b, link);
+    });
 }
 
 int ChBandStore::GetStopChannelNo(QString tech, QString band, int link) const
@@ -111,14 +138,35 @@ int ChBandStore::GetStopChannelNo(QString tech, QString band, int link) const
     return stopChannelIn(bandNamed(*this, tech, band), link);
 }
 
+int ChBandStore::GetStopChannelNo(int code, int link) const
+{
+    return AnswerForBand(code, -1, [&](int, int, const ChBand &b, const QString &) {
+        return stopChannelIn(b, link);
+    });
+}
+
 int ChBandStore::GetNumSubBand(QString tech, QString band) const
 {
     return bandNamed(*this, tech, band).NumSubBand;
 }
 
+int ChBandStore::GetNumSubBand(int code) const
+{
+    return AnswerForBand(code, -1,
+                         [](int, int, const ChBand &b, const QString &) { return b.NumSubBand; });
+}
+
 bool ChBandStore::IsUplinkOnly(QString tech, QString band) const
 {
     return bandNamed(*this, tech, band).SubBands[0].UplinkOnly;
+}
+
+// True for a bad code, on purpose.
+bool ChBandStore::IsUplinkOnly(int code) const
+{
+    return AnswerForBand(code, true, [&](int, int, const ChBand &b, const QString &) {
+        return b.SubBands[0].UplinkOnly;
+    });
 }
 
 double ChBandStore::GetDefaultIntBW(QString tech) const
@@ -128,4 +176,10 @@ double ChBandStore::GetDefaultIntBW(QString tech) const
             return facts.defaultIntBwHz;
     }
     return kFallbackIntBwHz;
+}
+
+double ChBandStore::GetDefaultIntBW(int code) const
+{
+    return AnswerForBand(
+        code, -1.0, [&](int t, int, const ChBand &, const QString &) { return defaultIntBwHz(t); });
 }

@@ -1,7 +1,7 @@
 // Bands and technology slots: their names and the records they hold.
 #include <saiskuko/chband.h>
 
-#include "store/bandnamefacts.h"
+#include "store/chbandstore_p.h"
 #include "store/technologies.h"
 
 ChBand::ChBand(QObject *parent) : QObject(parent), IsGlobal(false), SubBands(), NumSubBand(0)

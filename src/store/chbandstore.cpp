@@ -1,9 +1,8 @@
 // The band store: construction, registration of records and the lenient name lookups.
 #include <saiskuko/chbandstore.h>
 
+#include "store/chbandstore_p.h"
 #include "store/diagnostics.h"
-#include "store/namelookup.h"
-#include "store/searchindex.h"
 #include "store/technologies.h"
 
 namespace {

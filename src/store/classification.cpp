@@ -1,7 +1,7 @@
 // Validation of channel standards and the time-division band classifiers.
 #include <saiskuko/chbandstore.h>
 
-#include "store/enumeratorquery.h"
+#include "store/chbandstore_p.h"
 #include "store/standardtext.h"
 #include "store/technologies.h"
 

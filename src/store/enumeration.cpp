@@ -1,8 +1,8 @@
 // Channel standard enumerators: codes to names and back, band counts and lists.
 #include <saiskuko/chbandstore.h>
 
+#include "store/chbandstore_p.h"
 #include "store/diagnostics.h"
-#include "store/enumeratorquery.h"
 #include "store/standardtext.h"
 
 namespace {

@@ -236,7 +236,7 @@ int romanValue(const QString &text)
 // band prefix or leading zeros, a UTRA Roman numeral as its number.
 QString normalisedKey(const QString &key, const QList<int> &slotList)
 {
-    const QString lower = key.toLower();
+    QString lower = key.toLower();
     QStringView rest(lower);
     for (const BandPrefix &p : kBandPrefixes) {
         const QStringView after = rest.mid(int(qstrlen(p.prefix)));
@@ -595,7 +595,7 @@ QString Band::shortName() const
     const QStringList techs = aliasesOfSlot(m_tech) << techName(m_tech);
     for (const QString &tech : techs) {
         for (const QString &key : keys) {
-            const QString candidate = tech.toUpper() + QLatin1Char(':') + key;
+            QString candidate = tech.toUpper() + QLatin1Char(':') + key;
             if (candidate.contains(QLatin1Char(' ')))
                 continue;
             const Result<Band> found = resolveBand(candidate);

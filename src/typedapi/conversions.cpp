@@ -2,8 +2,7 @@
 #include "typedapi/typedapi_p.h"
 
 #include "bandplan/channelsearch.h"
-#include "query/bandqueries.h"
-#include "store/searchindex.h"
+#include "store/chbandstore_p.h"
 
 #include <cmath>
 #include <limits>
@@ -89,11 +88,13 @@ QString channelRangesText(const ChBand &data, Link link, Duplex duplex)
 
 Error channelNotInBand(const Band &band, const ChBand &data, Link link, Duplex duplex, int channel)
 {
-    return failure(
-        ErrorCode::ChannelNotInBand,
-        QStringLiteral("channel %1 is not %2 channel of %3; channels: %4")
-            .arg(channel)
-            .arg(withArticle(link), band.standard(), channelRangesText(data, link, duplex)));
+    const QString ranges = channelRangesText(data, link, duplex);
+    return failure(ErrorCode::ChannelNotInBand,
+                   QStringLiteral("channel %1 is not %2 channel of %3; %4")
+                       .arg(channel)
+                       .arg(withArticle(link), band.standard(),
+                            ranges.isEmpty() ? QLatin1String("it has none")
+                                             : QLatin1String("channels: ") + ranges));
 }
 
 // Calls visit(record, its search facts) for every real record of the link
@@ -169,10 +170,12 @@ void collectChannelsAt(const stSubBand &r, const RecordSearch &facts, double mhz
             return;
         double low = nearest;
         while (low > facts.firstSteps && near(facts.freqAtSteps(low - 1)))
-            --low;
-        for (double steps = low; steps <= facts.lastSteps && near(facts.freqAtSteps(steps));
-             ++steps)
+            low -= 1;
+        double steps = low;
+        do {
             addOnce(channels, facts.channelAt(steps));
+            steps += 1;
+        } while (steps <= facts.lastSteps && near(facts.freqAtSteps(steps)));
         return;
     }
     // Bisected: the run of matches starts at the first centre not below the
@@ -212,7 +215,8 @@ void offerNearest(const stSubBand &r, const RecordSearch &facts, double mhz, Nea
 {
     if (facts.spaced) {
         const double steps = facts.nearestSteps(mhz);
-        for (double s = steps - 1; s <= steps + 1; ++s) {
+        for (int offset = -1; offset <= 1; ++offset) {
+            const double s = steps + offset;
             if (s >= facts.firstSteps && s <= facts.lastSteps)
                 best->consider(facts.channelAt(s), facts.freqAtSteps(s), mhz);
         }
@@ -323,8 +327,8 @@ Result<double> Band::frequency(Link link, int channel) const
 {
     const ChBand *data = bandData(*this);
     if (Q_LIKELY(data)) {
-        const bool tdd = cachedDuplex(m_tech, m_band, *data) == Duplex::Tdd;
         const int n = recordCount(*data);
+        const bool tdd = cachedDuplex(m_tech, m_band, *data, n) == Duplex::Tdd;
         for (int i = 0; i < n; ++i) {
             const stSubBand &r = data->SubBands[i];
             if (holdsChannel(r, channel) && !isPlaceholder(r)
@@ -403,11 +407,8 @@ Result<int> Band::pairedChannel(Link link, int channel) const
         return anyRecord(*data, which, duplex,
                          [&](const stSubBand &r) { return holdsChannel(r, int(ch)); });
     };
-    if (!holds(link, channel)) {
-        if (!anyRecord(*data, link, duplex, [](const stSubBand &) { return true; }))
-            return linkNotServed(*this, link);
+    if (!holds(link, channel))
         return channelNotInBand(*this, *data, link, duplex, channel);
-    }
     if (duplex != Duplex::Fdd)
         return failure(ErrorCode::NoPairedChannel,
                        standard() + QLatin1String(" is ") + duplexName(duplex)

@@ -51,13 +51,17 @@ extern std::atomic<quint32> g_duplexOfSlot[kNumTechSlots][ChTechnology::MaxBands
 Duplex decideDuplex(int tech, int slot, const ChBand &band);
 
 // The band's duplex, decided once per band slot and record count.
-inline Duplex cachedDuplex(int tech, int slot, const ChBand &band)
+inline Duplex cachedDuplex(int tech, int slot, const ChBand &band, int records)
 {
-    const quint32 stamp = quint32(recordCount(band)) + 1;
+    const quint32 stamp = quint32(records) + 1;
     const quint32 kept = g_duplexOfSlot[tech][slot].load(std::memory_order_relaxed);
     if (Q_LIKELY((kept >> 2) == stamp))
         return Duplex(kept & 3u);
     return decideDuplex(tech, slot, band);
+}
+inline Duplex cachedDuplex(int tech, int slot, const ChBand &band)
+{
+    return cachedDuplex(tech, slot, band, recordCount(band));
 }
 
 // Whether a real record answers for link in a band of that duplex.
