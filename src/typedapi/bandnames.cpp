@@ -512,8 +512,7 @@ QStringList technologyShortForms(Technology technology)
 
 double defaultIntegrationBandwidthHz(Technology technology)
 {
-    const int t = int(technology);
-    return t >= 0 && t < kNumTechSlots ? kTechnologies[t].defaultIntBwHz : 0.0;
+    return store().GetDefaultIntBW(technologyName(technology));
 }
 
 Result<Technology> findTechnology(QStringView text)
