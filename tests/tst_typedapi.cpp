@@ -190,6 +190,9 @@ private slots:
             {"GSM:e900", "GSM - E-GSM 900"},
             {"GSM:r900china", "GSM - R-GSM 900 (China)"},
             {"GSM:900", "!AmbiguousName"},
+            {"GSM:450", "GSM - GSM 450"},
+            {"GSM:480", "GSM - GSM 480"},
+            {"GSM:850", "GSM - GSM 850"},
             {"TDS:3", "TD-SCDMA - FBN 3"},
             {"WIMAX:r12", "WIMAX - ProfR12 (7 3463)"},
             {"LTE:global", "!AmbiguousName"},
@@ -252,6 +255,8 @@ private slots:
         for (const Band &b : all) {
             QCOMPARE(bandByCode(b.code()).value(), b);
             QVERIFY(b.shortName().isEmpty() || findBand(b.shortName()).value() == b);
+            QVERIFY2(b.technology() != Technology::Gsm || !b.shortName().isEmpty(),
+                     qPrintable(b.standard()));
         }
         QCOMPARE(band("n78").shortName(), str("NR:n78"));
     }

@@ -120,7 +120,9 @@ QStringList shortKeys(const QString &name)
         if (letters > 1)
             keys << compact.left(letters);
     }
+    // "GSM 450" gives 450 twice; a key listed twice would name its band twice.
     keys.removeAll(QString());
+    keys.removeDuplicates();
     return keys;
 }
 
