@@ -141,7 +141,7 @@ public:
     /// Its channel standard text: technology name, " - ", band name.
     QString standard() const;
     /// The shortest TECH:BAND form that findBand() resolves to this band alone
-    /// ("LTE-FDD:1", "NR:n78"); empty where every such form is ambiguous.
+    /// ("FDD:1", "NR:n78"); empty where every such form is ambiguous.
     QString shortName() const;
     /// How it uses its spectrum (see Duplex).
     Duplex duplex() const;

@@ -1,0 +1,399 @@
+// A band's records, links, and its conversions between channels and frequencies.
+#include "typedapi/typedapi_p.h"
+
+#include "bandplan/channelsearch.h"
+#include "query/bandqueries.h"
+
+#include <cmath>
+#include <limits>
+
+namespace saiskuko {
+namespace typed {
+
+QString linkWord(Link link)
+{
+    switch (link) {
+    case Link::Down:
+        return QStringLiteral("downlink");
+    case Link::Up:
+        return QStringLiteral("uplink");
+    }
+    return QStringLiteral("link %1").arg(int(link));
+}
+
+} // namespace typed
+
+namespace {
+
+using namespace typed;
+
+// Half a hertz: text rounds to 1 Hz, and every raster is a whole number of Hz.
+constexpr double kSameCentreMHz = 0.5e-6;
+
+// Records of formulas the library does not know are walked channel by channel
+// up to this many channels; longer ones are bisected as if their frequencies
+// grew from the first channel to the last (or, falling, walked this far).
+constexpr qint64 kWalkLimit = qint64(1) << 20;
+
+double centreOf(const stSubBand &r, qint64 channel)
+{
+    return recordFreq(r, int(channel));
+}
+
+QString mhzText(double mhz)
+{
+    QString text = QString::number(mhz, 'f', 6);
+    while (text.endsWith(QLatin1Char('0')))
+        text.chop(1);
+    if (text.endsWith(QLatin1Char('.')))
+        text.chop(1);
+    return text;
+}
+
+// "a downlink", "an uplink".
+QString withArticle(Link link)
+{
+    return (link == Link::Up ? QLatin1String("an ") : QLatin1String("a ")) + linkWord(link);
+}
+
+Error invalidBand()
+{
+    return failure(ErrorCode::UnknownBand, QStringLiteral("not a band of the library"));
+}
+
+Error linkNotServed(const Band &band, Link link)
+{
+    return failure(ErrorCode::LinkNotServed, band.standard() + QLatin1String(" has no ")
+                                                 + linkWord(link) + QLatin1String(" channels"));
+}
+
+Error notFinite()
+{
+    return failure(ErrorCode::NotFinite,
+                   QStringLiteral("the frequency is not a finite number of MHz"));
+}
+
+// "0-599, 18000-18599": the channels of the link's records.
+QString channelRangesText(const ChBand &data, Link link, Duplex duplex)
+{
+    QStringList ranges;
+    anyRecord(data, link, duplex, [&](const stSubBand &r) {
+        ranges << (r.StartChannelNo == r.StopChannelNo
+                       ? QString::number(r.StartChannelNo)
+                       : QStringLiteral("%1-%2").arg(r.StartChannelNo).arg(r.StopChannelNo));
+        return false;
+    });
+    return ranges.join(QLatin1String(", "));
+}
+
+Error channelNotInBand(const Band &band, const ChBand &data, Link link, Duplex duplex, int channel)
+{
+    return failure(
+        ErrorCode::ChannelNotInBand,
+        QStringLiteral("channel %1 is not %2 channel of %3; channels: %4")
+            .arg(channel)
+            .arg(withArticle(link), band.standard(), channelRangesText(data, link, duplex)));
+}
+
+// The lowest and highest channel centre of a record.
+void centreSpan(const stSubBand &r, double *low, double *high)
+{
+    const qint64 start = r.StartChannelNo;
+    const qint64 stop = r.StopChannelNo;
+    if (monotonicTraits(r) || stop - start >= kWalkLimit) {
+        *low = std::fmin(*low, std::fmin(centreOf(r, start), centreOf(r, stop)));
+        *high = std::fmax(*high, std::fmax(centreOf(r, start), centreOf(r, stop)));
+        return;
+    }
+    for (qint64 ch = start; ch <= stop; ++ch) {
+        *low = std::fmin(*low, centreOf(r, ch));
+        *high = std::fmax(*high, centreOf(r, ch));
+    }
+}
+
+// The first channel of a record, from `from` on, whose centre is at least
+// mhz, for a record whose centres do not fall; stop + 1 when none is.
+qint64 firstAtLeast(const stSubBand &r, qint64 from, double mhz)
+{
+    const FormulaTraits *traits = monotonicTraits(r);
+    const qint64 guess = traits ? estimateChannel(*traits, r, mhz) : from;
+    return firstTrueNear(from, r.StopChannelNo, guess,
+                         [&](qint64 ch) { return centreOf(r, ch) >= mhz; });
+}
+
+// Whether a record is searched by bisection rather than walked.
+bool bisected(const stSubBand &r)
+{
+    if (monotonicTraits(r))
+        return true;
+    return qint64(r.StopChannelNo) - r.StartChannelNo >= kWalkLimit
+           && centreOf(r, r.StartChannelNo) <= centreOf(r, r.StopChannelNo);
+}
+
+void addOnce(QList<int> *channels, qint64 channel)
+{
+    if (!channels->contains(int(channel)))
+        channels->append(int(channel));
+}
+
+// Appends the record's channels centred within half a hertz of mhz, ascending.
+void collectChannelsAt(const stSubBand &r, double mhz, QList<int> *channels)
+{
+    if (r.StartChannelNo > r.StopChannelNo)
+        return;
+    const auto near = [&](double centre) { return std::fabs(centre - mhz) <= kSameCentreMHz; };
+    const RecordSearch facts = RecordSearch::of(r);
+    if (facts.spaced) {
+        const double nearest = facts.nearestSteps(mhz);
+        if (!near(facts.freqAtSteps(nearest)))
+            return;
+        double low = nearest;
+        while (low > facts.firstSteps && near(facts.freqAtSteps(low - 1)))
+            --low;
+        for (double steps = low; steps <= facts.lastSteps && near(facts.freqAtSteps(steps));
+             ++steps)
+            addOnce(channels, facts.channelAt(steps));
+        return;
+    }
+    // Bisected: the run of matches starts at the first centre not below the
+    // window; walked: every channel. Either way no more than the limit.
+    const bool bisect = bisected(r);
+    qint64 ch = r.StartChannelNo;
+    if (bisect)
+        ch = firstAtLeast(r, ch, mhz - kSameCentreMHz);
+    const qint64 last = qMin(qint64(r.StopChannelNo), ch + kWalkLimit - 1);
+    for (; ch <= last; ++ch) {
+        if (near(centreOf(r, ch)))
+            addOnce(channels, ch);
+        else if (bisect)
+            break;
+    }
+}
+
+// The nearest channel found so far, and its distance from the frequency.
+struct Nearest
+{
+    qint64 channel = -1;
+    double distance = HUGE_VAL;
+
+    void consider(qint64 ch, double centre, double mhz)
+    {
+        const double d = std::fabs(centre - mhz);
+        if (d < distance) {
+            distance = d;
+            channel = ch;
+        }
+    }
+};
+
+// Offers the record's channels nearest to mhz, ascending, so that a tie goes
+// to the lower channel.
+void offerNearest(const stSubBand &r, double mhz, Nearest *best)
+{
+    if (r.StartChannelNo > r.StopChannelNo)
+        return;
+    const RecordSearch facts = RecordSearch::of(r);
+    if (facts.spaced) {
+        const double steps = facts.nearestSteps(mhz);
+        for (double s = steps - 1; s <= steps + 1; ++s) {
+            if (s >= facts.firstSteps && s <= facts.lastSteps)
+                best->consider(facts.channelAt(s), facts.freqAtSteps(s), mhz);
+        }
+        return;
+    }
+    if (bisected(r)) {
+        const qint64 above = firstAtLeast(r, r.StartChannelNo, mhz);
+        if (above > r.StartChannelNo) {
+            // The lowest channel sharing the centre just below.
+            const qint64 below = firstAtLeast(r, r.StartChannelNo, centreOf(r, above - 1));
+            best->consider(below, centreOf(r, below), mhz);
+        }
+        if (above <= r.StopChannelNo)
+            best->consider(above, centreOf(r, above), mhz);
+        return;
+    }
+    const qint64 last = qMin(qint64(r.StopChannelNo), r.StartChannelNo + kWalkLimit - 1);
+    for (qint64 ch = r.StartChannelNo; ch <= last; ++ch)
+        best->consider(ch, centreOf(r, ch), mhz);
+}
+
+} // namespace
+
+QList<Link> Band::links() const
+{
+    QList<Link> out;
+    const ChBand *data = bandData(*this);
+    if (!data)
+        return out;
+    const Duplex duplex = cachedDuplex(m_tech, m_band, *data);
+    for (Link link : {Link::Up, Link::Down}) {
+        if (anyRecord(*data, link, duplex, [](const stSubBand &) { return true; }))
+            out << link;
+    }
+    return out;
+}
+
+QList<Record> Band::records(Link link) const
+{
+    QList<Record> out;
+    const ChBand *data = bandData(*this);
+    if (!data)
+        return out;
+    anyRecord(*data, link, cachedDuplex(m_tech, m_band, *data), [&](const stSubBand &r) {
+        Record record;
+        record.link = r.Link == 1 ? Link::Up : Link::Down;
+        record.firstChannel = r.StartChannelNo;
+        record.lastChannel = r.StopChannelNo;
+        record.lowEdgeMHz = r.StartFreq;
+        record.highEdgeMHz = r.StopFreq;
+        record.firstMHz = recordFreq(r, r.StartChannelNo);
+        record.lastMHz = recordFreq(r, r.StopChannelNo);
+        if (r.StartChannelNo < r.StopChannelNo)
+            record.stepMHz = recordFreq(r, r.StartChannelNo + 1) - record.firstMHz;
+        out << record;
+        return false;
+    });
+    return out;
+}
+
+bool Band::withinEdges(Link link, double mhz) const
+{
+    const ChBand *data = bandData(*this);
+    return data
+           && anyRecord(*data, link, cachedDuplex(m_tech, m_band, *data), [&](const stSubBand &r) {
+                  return r.StartFreq - kSameCentreMHz <= mhz && mhz <= r.StopFreq + kSameCentreMHz;
+              });
+}
+
+Result<double> Band::frequency(Link link, int channel) const
+{
+    const ChBand *data = bandData(*this);
+    if (!data)
+        return invalidBand();
+    const Duplex duplex = cachedDuplex(m_tech, m_band, *data);
+    const int n = recordCount(*data);
+    for (int i = 0; i < n; ++i) {
+        const stSubBand &r = data->SubBands[i];
+        if (holdsChannel(r, channel) && answers(r, link, duplex)) {
+            const double mhz = recordFreq(r, channel);
+            if (std::isfinite(mhz))
+                return mhz;
+            break;
+        }
+    }
+    if (!anyRecord(*data, link, duplex, [](const stSubBand &) { return true; }))
+        return linkNotServed(*this, link);
+    return channelNotInBand(*this, *data, link, duplex, channel);
+}
+
+QList<double> Band::frequencies(Link link, int channel) const
+{
+    QList<double> out;
+    const ChBand *data = bandData(*this);
+    if (!data)
+        return out;
+    anyRecord(*data, link, cachedDuplex(m_tech, m_band, *data), [&](const stSubBand &r) {
+        const double mhz = recordFreq(r, channel);
+        if (holdsChannel(r, channel) && std::isfinite(mhz) && !out.contains(mhz))
+            out << mhz;
+        return false;
+    });
+    return out;
+}
+
+Result<QList<int>> Band::channelsAt(Link link, double mhz) const
+{
+    const ChBand *data = bandData(*this);
+    if (!data)
+        return invalidBand();
+    if (!std::isfinite(mhz))
+        return notFinite();
+    const Duplex duplex = cachedDuplex(m_tech, m_band, *data);
+    QList<int> channels;
+    const bool served = anyRecord(*data, link, duplex, [&](const stSubBand &r) {
+        collectChannelsAt(r, mhz, &channels);
+        return false;
+    });
+    if (!channels.isEmpty())
+        return channels;
+    if (!served && !anyRecord(*data, link, duplex, [](const stSubBand &) { return true; }))
+        return linkNotServed(*this, link);
+    double low = HUGE_VAL, high = -HUGE_VAL;
+    anyRecord(*data, link, duplex, [&](const stSubBand &r) {
+        if (r.StartChannelNo <= r.StopChannelNo)
+            centreSpan(r, &low, &high);
+        return false;
+    });
+    if (mhz < low - kSameCentreMHz || mhz > high + kSameCentreMHz)
+        return failure(
+            ErrorCode::FrequencyNotInBand,
+            QStringLiteral("%1 MHz lies outside the %2 channels of %3 (%4 to %5 MHz)")
+                .arg(mhzText(mhz), linkWord(link), standard(), mhzText(low), mhzText(high)));
+    return failure(ErrorCode::NotAChannelCentre,
+                   QStringLiteral("%1 MHz is not %2 channel centre of %3")
+                       .arg(mhzText(mhz), withArticle(link), standard()));
+}
+
+Result<int> Band::nearestChannel(Link link, double mhz) const
+{
+    const ChBand *data = bandData(*this);
+    if (!data)
+        return invalidBand();
+    if (!std::isfinite(mhz))
+        return notFinite();
+    const Duplex duplex = cachedDuplex(m_tech, m_band, *data);
+    double low = HUGE_VAL, high = -HUGE_VAL;
+    Nearest best;
+    const bool served = anyRecord(*data, link, duplex, [&](const stSubBand &r) {
+        low = std::fmin(low, r.StartFreq);
+        high = std::fmax(high, r.StopFreq);
+        if (r.StartChannelNo <= r.StopChannelNo) {
+            centreSpan(r, &low, &high);
+            offerNearest(r, mhz, &best);
+        }
+        return false;
+    });
+    Q_UNUSED(served)
+    if (!anyRecord(*data, link, duplex, [](const stSubBand &) { return true; }))
+        return linkNotServed(*this, link);
+    if (!(low <= mhz && mhz <= high) || best.channel < 0)
+        return failure(
+            ErrorCode::FrequencyNotInBand,
+            QStringLiteral("%1 MHz lies outside the %2 range of %3 (%4 to %5 MHz)")
+                .arg(mhzText(mhz), linkWord(link), standard(), mhzText(low), mhzText(high)));
+    return int(best.channel);
+}
+
+Result<int> Band::pairedChannel(Link link, int channel) const
+{
+    const ChBand *data = bandData(*this);
+    if (!data)
+        return invalidBand();
+    const Duplex duplex = cachedDuplex(m_tech, m_band, *data);
+    const auto holds = [&](Link which, qint64 ch) {
+        return anyRecord(*data, which, duplex,
+                         [&](const stSubBand &r) { return holdsChannel(r, int(ch)); });
+    };
+    if (!holds(link, channel)) {
+        if (!anyRecord(*data, link, duplex, [](const stSubBand &) { return true; }))
+            return linkNotServed(*this, link);
+        return channelNotInBand(*this, *data, link, duplex, channel);
+    }
+    if (duplex != Duplex::Fdd)
+        return failure(ErrorCode::NoPairedChannel,
+                       standard() + QLatin1String(" is ") + duplexName(duplex)
+                           + QLatin1String(": it has no paired channels"));
+    const int offset = offsetChUpDownIn(m_tech, *data, data->BandName, channel);
+    const qint64 paired = link == Link::Up ? qint64(channel) - offset : qint64(channel) + offset;
+    const Link other = link == Link::Up ? Link::Down : Link::Up;
+    if (offset == 0 || paired < std::numeric_limits<int>::min()
+        || paired > std::numeric_limits<int>::max() || !holds(other, paired))
+        return failure(ErrorCode::NoPairedChannel,
+                       QStringLiteral("%1 channel %2 of %3 has no paired %4 channel")
+                           .arg(linkWord(link))
+                           .arg(channel)
+                           .arg(standard(), linkWord(other)));
+    return int(paired);
+}
+
+} // namespace saiskuko

@@ -1,0 +1,84 @@
+#ifndef SAISKUKO_TYPEDAPI_P_H
+#define SAISKUKO_TYPEDAPI_P_H
+
+// What the files of the typed API share: the way from a Band to its slots and
+// records, the cached duplex, and the quoting of arguments in messages.
+
+#include <saiskuko/bandplan.h>
+#include <saiskuko/chbandstore.h>
+#include <saiskuko/chstd.h>
+
+#include "store/recordrules.h"
+#include "store/technologies.h"
+
+namespace saiskuko {
+
+// Builds bands and reads their slots; Band names it its friend.
+class BandAccess
+{
+public:
+    static Band make(int tech, int band) { return Band(tech, band); }
+    static int tech(const Band &band) { return band.m_tech; }
+    static int slot(const Band &band) { return band.m_band; }
+};
+
+namespace typed {
+
+inline ChBandStore &store()
+{
+    return G_CHSTD;
+}
+
+// The band's data, or null for an invalid band or a slot the store does not use.
+inline const ChBand *bandData(const Band &band)
+{
+    const int t = BandAccess::tech(band);
+    const int b = BandAccess::slot(band);
+    if (t < 0 || t >= kNumTechSlots)
+        return nullptr;
+    const ChTechnology &tech = store().Technologies[t];
+    return b >= 0 && b < tech.NumBand ? &tech.Bands[b] : nullptr;
+}
+
+// The band's duplex, decided once per band slot and record count.
+Duplex cachedDuplex(int tech, int slot, const ChBand &band);
+
+// Whether a real record answers for link in a band of that duplex.
+inline bool answers(const stSubBand &record, Link link, Duplex duplex)
+{
+    return !isPlaceholder(record) && servesLinkOfBand(record, int(link), duplex == Duplex::Tdd);
+}
+
+// Calls visit(record) for every real record of the link, in registration
+// order, until visit returns true; returns whether it did.
+template <typename Visit>
+bool anyRecord(const ChBand &band, Link link, Duplex duplex, Visit visit)
+{
+    const int n = recordCount(band);
+    for (int i = 0; i < n; ++i) {
+        const stSubBand &r = band.SubBands[i];
+        if (answers(r, link, duplex) && visit(r))
+            return true;
+    }
+    return false;
+}
+
+// Technology slots in use, in slot order.
+QList<int> techSlots();
+
+// An argument echoed in a message: cut to 40 characters (then "..."), quoted.
+QString cut(const QString &text);
+QString echoed(const QString &text);
+
+inline Error failure(ErrorCode code, const QString &message)
+{
+    return Error{code, message};
+}
+
+// "downlink" or "uplink" (any other value reads as its number).
+QString linkWord(Link link);
+
+} // namespace typed
+} // namespace saiskuko
+
+#endif
