@@ -83,6 +83,10 @@ void checkFrequency(const Band &b, Link link, int channel)
     if (!f.ok())
         return;
     FUZZ_CHECK(std::isfinite(f.value()) && fuzz::bitsOf(all.first()) == fuzz::bitsOf(f.value()));
+    // In an FDD "Band Global" GetFreq takes the first record of either link, which in WCDMA
+    // can be another band's uplink for a downlink channel: the typed API keeps to the link.
+    if (b.isGlobal() && b.duplex() != saiskuko::Duplex::Tdd)
+        return;
     const double legacy = G_CHSTD.GetFreq(b.technologyName(), b.name(), int(link), channel);
     FUZZ_CHECK(legacy == -1.0 || fuzz::bitsOf(legacy) == fuzz::bitsOf(f.value()));
 }
@@ -98,7 +102,9 @@ void checkChannelsAt(const Band &b, Link link, double mhz)
         FUZZ_CHECK(!at.value().isEmpty());
         for (const int channel : at.value())
             FUZZ_CHECK(centredAt(b, link, channel, mhz));
-        FUZZ_CHECK(nearest.ok() && at.value().contains(nearest.value()));
+        // A centre up to half a hertz past the stated edges is a channel's, yet outside the
+        // span nearestChannel() answers for: hold the two to each other where both answer.
+        FUZZ_CHECK(!nearest.ok() || at.value().contains(nearest.value()));
     }
     if (nearest.ok())
         FUZZ_CHECK(b.frequency(link, nearest.value()).ok());
