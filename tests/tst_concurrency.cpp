@@ -132,6 +132,7 @@ QString typedAnswers(int code, const QString &standard, int l, int ch, double mh
            + hits + b.frequency(link, INT_MIN).error().message;
 }
 
+#if SAISKUKO_COUNT_ALLOCATIONS
 // A thread's allocations over ten calls of a query (after one that may build caches).
 template <typename Query>
 long allocationsOf(Query query)
@@ -142,6 +143,7 @@ long allocationsOf(Query query)
         query();
     return g_allocations.load() - before;
 }
+#endif
 
 } // namespace
 
