@@ -82,7 +82,8 @@ class Result
 {
 public:
     /// An answer.
-    Result(T value) : m_value(std::move(value)), m_ok(true) {} // NOLINT(google-explicit-constructor)
+    Result(T value)
+        : m_value(std::move(value)), m_ok(true) {} // NOLINT(google-explicit-constructor)
     /// No answer, and why.
     Result(Error error) : m_error(std::move(error)) {} // NOLINT(google-explicit-constructor)
 
@@ -205,11 +206,11 @@ private:
 /// link's channel nearest to it.
 struct SearchHit
 {
-    Band band;                  ///< The band.
-    Link link = Link::Down;     ///< The direction.
-    int channel = -1;           ///< The nearest channel.
-    double channelMHz = 0.0;    ///< Its centre, MHz.
-    double offsetMHz = 0.0;     ///< Its centre minus the searched frequency, MHz.
+    Band band;               ///< The band.
+    Link link = Link::Down;  ///< The direction.
+    int channel = -1;        ///< The nearest channel.
+    double channelMHz = 0.0; ///< Its centre, MHz.
+    double offsetMHz = 0.0;  ///< Its centre minus the searched frequency, MHz.
 };
 
 /// The technologies in slot order.

@@ -2,6 +2,9 @@
 // candidates.
 #include "typedapi/typedapi_p.h"
 
+#include <QtCore/QHash>
+#include <QtCore/QVector>
+
 #include <algorithm>
 #include <utility>
 #include <vector>
@@ -134,9 +137,10 @@ struct BandKeys
     }
 };
 
-// The keys of the bands registered when first asked. Names of band slots never
-// change, so a band registered later is only missing here: its keys are then
-// worked out on each call.
+// The keys of the bands registered when first asked, and which bands each
+// lower-case name and short key names. Names of band slots never change, so a
+// band registered later is only missing here: its keys are then worked out on
+// each call.
 class KeyIndex
 {
 public:
@@ -144,8 +148,12 @@ public:
     {
         for (int t = 0; t < kNumTechSlots; ++t) {
             const ChTechnology &tech = store().Technologies[t];
-            for (int b = 0; b < tech.NumBand; ++b)
+            for (int b = 0; b < tech.NumBand; ++b) {
                 m_bands[t].push_back(BandKeys::of(tech.Bands[b].BandName));
+                m_byName[t][m_bands[t].back().lowerName].append(b);
+                for (const QString &key : m_bands[t].back().keys)
+                    m_byKey[t][key].append(b);
+            }
         }
     }
     static const KeyIndex &get()
@@ -153,18 +161,25 @@ public:
         static const KeyIndex index;
         return index;
     }
+    // The bands registered when the index was built.
+    int count(int t) const { return int(m_bands[t].size()); }
     // The keys of a band, from the index or, for a band registered later, built.
     const BandKeys &keysOf(int t, int b, BandKeys *scratch) const
     {
-        const std::vector<BandKeys> &known = m_bands[t];
-        if (b < int(known.size()))
-            return known[std::size_t(b)];
+        if (b < count(t))
+            return m_bands[t][std::size_t(b)];
         *scratch = BandKeys::of(store().Technologies[t].Bands[b].BandName);
         return *scratch;
     }
+    // The indexed bands of slot t whose lower-case name is `lower`, ascending.
+    QVector<int> named(int t, const QString &lower) const { return m_byName[t].value(lower); }
+    // The indexed bands of slot t with the short key `key`, ascending.
+    QVector<int> keyed(int t, const QString &key) const { return m_byKey[t].value(key); }
 
 private:
     std::vector<BandKeys> m_bands[kNumTechSlots];
+    QHash<QString, QVector<int>> m_byName[kNumTechSlots];
+    QHash<QString, QVector<int>> m_byKey[kNumTechSlots];
 };
 
 // The prefixes engineers put before a band number, by the technologies they
@@ -221,7 +236,7 @@ int romanValue(const QString &text)
 // band prefix or leading zeros, a UTRA Roman numeral as its number.
 QString normalisedKey(const QString &key, const QList<int> &slotList)
 {
-    const QString lower = key.toLower();
+    QString lower = key.toLower();
     QStringView rest(lower);
     for (const BandPrefix &p : kBandPrefixes) {
         const QStringView after = rest.mid(int(qstrlen(p.prefix)));
@@ -292,14 +307,44 @@ QString techNamesText(const QList<int> &slotList, const char *separator)
     return names.join(QLatin1String(separator));
 }
 
+// QStringList::contains, without its call per list: most keys differ in length.
+bool hasKey(const QStringList &keys, const QString &key)
+{
+    for (const QString &k : keys) {
+        if (k.size() == key.size() && k == key)
+            return true;
+    }
+    return false;
+}
+
+// The slots in use with their names and short forms in lower case. The store
+// fills its technology map once, while it is built, so one look suffices.
+struct TechKeys
+{
+    int slot;
+    QString lowerName;
+    QStringList aliases;
+};
+
+const std::vector<TechKeys> &techKeys()
+{
+    static const std::vector<TechKeys> keys = [] {
+        std::vector<TechKeys> out;
+        for (int t : techSlots())
+            out.push_back({t, techName(t).toLower(), aliasesOfSlot(t)});
+        return out;
+    }();
+    return keys;
+}
+
 // Every slot whose name or short form is text (case aside).
 QList<int> techCandidates(const QString &text)
 {
     const QString key = text.trimmed().toLower();
     QList<int> found;
-    for (int t : techSlots()) {
-        if (techName(t).toLower() == key || aliasesOfSlot(t).contains(key))
-            found << t;
+    for (const TechKeys &tech : techKeys()) {
+        if (tech.lowerName == key || hasKey(tech.aliases, key))
+            found << tech.slot;
     }
     return found;
 }
@@ -312,22 +357,31 @@ QList<Band> matchShortForm(const QList<int> &slotList, const QString &key)
     QList<Band> byName, byKey, byQualified;
     const QString lower = key.toLower();
     const QString normalised = normalisedKey(key, slotList);
-    const int dash = key.lastIndexOf(QLatin1Char('-'));
-    const QString base = dash > 0 ? normalisedKey(key.left(dash), slotList) : QString();
-    const QString qualifier = dash > 0 ? key.mid(dash + 1).toLower() : QString();
     const KeyIndex &index = KeyIndex::get();
     BandKeys scratch;
     for (int t : slotList) {
-        const int count = store().Technologies[t].NumBand;
-        for (int b = 0; b < count; ++b) {
+        for (int b : index.named(t, lower))
+            byName << BandAccess::make(t, b);
+        for (int b : index.keyed(t, normalised))
+            byKey << BandAccess::make(t, b);
+        for (int b = index.count(t); b < store().Technologies[t].NumBand; ++b) {
             const BandKeys &band = index.keysOf(t, b, &scratch);
             if (band.lowerName == lower)
                 byName << BandAccess::make(t, b);
-            else if (band.keys.contains(normalised))
+            else if (hasKey(band.keys, normalised))
                 byKey << BandAccess::make(t, b);
-            else if (!qualifier.isEmpty() && band.keys.contains(base)
-                     && band.qualifiers.contains(qualifier))
-                byQualified << BandAccess::make(t, b);
+        }
+    }
+    const int dash = key.lastIndexOf(QLatin1Char('-'));
+    if (byName.isEmpty() && byKey.isEmpty() && dash > 0) {
+        const QString base = normalisedKey(key.left(dash), slotList);
+        const QString qualifier = key.mid(dash + 1).toLower();
+        for (int t : slotList) {
+            for (int b = 0; b < store().Technologies[t].NumBand && !qualifier.isEmpty(); ++b) {
+                const BandKeys &band = index.keysOf(t, b, &scratch);
+                if (hasKey(band.keys, base) && hasKey(band.qualifiers, qualifier))
+                    byQualified << BandAccess::make(t, b);
+            }
         }
     }
     if (!byName.isEmpty())
@@ -541,7 +595,7 @@ QString Band::shortName() const
     const QStringList techs = aliasesOfSlot(m_tech) << techName(m_tech);
     for (const QString &tech : techs) {
         for (const QString &key : keys) {
-            const QString candidate = tech.toUpper() + QLatin1Char(':') + key;
+            QString candidate = tech.toUpper() + QLatin1Char(':') + key;
             if (candidate.contains(QLatin1Char(' ')))
                 continue;
             const Result<Band> found = resolveBand(candidate);

@@ -3,6 +3,7 @@
 
 #include "bandplan/channelsearch.h"
 #include "query/bandqueries.h"
+#include "store/searchindex.h"
 
 #include <cmath>
 #include <limits>
@@ -88,16 +89,39 @@ QString channelRangesText(const ChBand &data, Link link, Duplex duplex)
 
 Error channelNotInBand(const Band &band, const ChBand &data, Link link, Duplex duplex, int channel)
 {
-    return failure(
-        ErrorCode::ChannelNotInBand,
-        QStringLiteral("channel %1 is not %2 channel of %3; channels: %4")
-            .arg(channel)
-            .arg(withArticle(link), band.standard(), channelRangesText(data, link, duplex)));
+    const QString ranges = channelRangesText(data, link, duplex);
+    return failure(ErrorCode::ChannelNotInBand,
+                   QStringLiteral("channel %1 is not %2 channel of %3; %4")
+                       .arg(channel)
+                       .arg(withArticle(link), band.standard(),
+                            ranges.isEmpty() ? QLatin1String("it has none")
+                                             : QLatin1String("channels: ") + ranges));
 }
 
-// The lowest and highest channel centre of a record.
-void centreSpan(const stSubBand &r, double *low, double *high)
+// Calls visit(record, its search facts) for every real record of the link
+// that holds channels, in registration order.
+template <typename Visit>
+void eachSearchedRecord(int tech, int slot, const ChBand &data, Link link, Duplex duplex,
+                        Visit visit)
 {
+    const KnownRecords known = SearchIndex::find(store(), tech, slot);
+    RecordSearch scratch;
+    const int n = recordCount(data);
+    for (int i = 0; i < n; ++i) {
+        const stSubBand &r = data.SubBands[i];
+        if (answers(r, link, duplex) && r.StartChannelNo <= r.StopChannelNo)
+            visit(r, known.of(i, r, &scratch));
+    }
+}
+
+// Widens [low, high] to the lowest and highest channel centre of a record.
+void centreSpan(const stSubBand &r, const RecordSearch &facts, double *low, double *high)
+{
+    if (facts.spaced) {
+        *low = std::fmin(*low, facts.freqAtSteps(facts.firstSteps));
+        *high = std::fmax(*high, facts.freqAtSteps(facts.lastSteps));
+        return;
+    }
     const qint64 start = r.StartChannelNo;
     const qint64 stop = r.StopChannelNo;
     if (monotonicTraits(r) || stop - start >= kWalkLimit) {
@@ -137,22 +161,22 @@ void addOnce(QList<int> *channels, qint64 channel)
 }
 
 // Appends the record's channels centred within half a hertz of mhz, ascending.
-void collectChannelsAt(const stSubBand &r, double mhz, QList<int> *channels)
+void collectChannelsAt(const stSubBand &r, const RecordSearch &facts, double mhz,
+                       QList<int> *channels)
 {
-    if (r.StartChannelNo > r.StopChannelNo)
-        return;
     const auto near = [&](double centre) { return std::fabs(centre - mhz) <= kSameCentreMHz; };
-    const RecordSearch facts = RecordSearch::of(r);
     if (facts.spaced) {
         const double nearest = facts.nearestSteps(mhz);
         if (!near(facts.freqAtSteps(nearest)))
             return;
         double low = nearest;
         while (low > facts.firstSteps && near(facts.freqAtSteps(low - 1)))
-            --low;
-        for (double steps = low; steps <= facts.lastSteps && near(facts.freqAtSteps(steps));
-             ++steps)
+            low -= 1;
+        double steps = low;
+        do {
             addOnce(channels, facts.channelAt(steps));
+            steps += 1;
+        } while (steps <= facts.lastSteps && near(facts.freqAtSteps(steps)));
         return;
     }
     // Bisected: the run of matches starts at the first centre not below the
@@ -188,14 +212,12 @@ struct Nearest
 
 // Offers the record's channels nearest to mhz, ascending, so that a tie goes
 // to the lower channel.
-void offerNearest(const stSubBand &r, double mhz, Nearest *best)
+void offerNearest(const stSubBand &r, const RecordSearch &facts, double mhz, Nearest *best)
 {
-    if (r.StartChannelNo > r.StopChannelNo)
-        return;
-    const RecordSearch facts = RecordSearch::of(r);
     if (facts.spaced) {
         const double steps = facts.nearestSteps(mhz);
-        for (double s = steps - 1; s <= steps + 1; ++s) {
+        for (int offset = -1; offset <= 1; ++offset) {
+            const double s = steps + offset;
             if (s >= facts.firstSteps && s <= facts.lastSteps)
                 best->consider(facts.channelAt(s), facts.freqAtSteps(s), mhz);
         }
@@ -215,6 +237,43 @@ void offerNearest(const stSubBand &r, double mhz, Nearest *best)
     const qint64 last = qMin(qint64(r.StopChannelNo), r.StartChannelNo + kWalkLimit - 1);
     for (qint64 ch = r.StartChannelNo; ch <= last; ++ch)
         best->consider(ch, centreOf(r, ch), mhz);
+}
+
+// Why Band::frequency has no answer (out of line: the answer's path stays short).
+Q_NEVER_INLINE Result<double> noFrequency(const Band &band, Link link, int channel)
+{
+    const ChBand *data = bandData(band);
+    if (!data)
+        return invalidBand();
+    const Duplex duplex = band.duplex();
+    if (!anyRecord(*data, link, duplex, [](const stSubBand &) { return true; }))
+        return linkNotServed(band, link);
+    return channelNotInBand(band, *data, link, duplex, channel);
+}
+
+// Why Band::channelsAt (or, before its search, Band::nearestChannel) has no answer.
+Q_NEVER_INLINE Error noChannelAt(const Band &band, Link link, double mhz)
+{
+    const ChBand *data = bandData(band);
+    if (!data)
+        return invalidBand();
+    if (!std::isfinite(mhz))
+        return notFinite();
+    const Duplex duplex = band.duplex();
+    if (!anyRecord(*data, link, duplex, [](const stSubBand &) { return true; }))
+        return linkNotServed(band, link);
+    double low = HUGE_VAL, high = -HUGE_VAL;
+    eachSearchedRecord(
+        BandAccess::tech(band), BandAccess::slot(band), *data, link, duplex,
+        [&](const stSubBand &r, const RecordSearch &facts) { centreSpan(r, facts, &low, &high); });
+    if (!(mhz >= low - kSameCentreMHz && mhz <= high + kSameCentreMHz))
+        return failure(
+            ErrorCode::FrequencyNotInBand,
+            QStringLiteral("%1 MHz lies outside the %2 channels of %3 (%4 to %5 MHz)")
+                .arg(mhzText(mhz), linkWord(link), band.standard(), mhzText(low), mhzText(high)));
+    return failure(ErrorCode::NotAChannelCentre,
+                   QStringLiteral("%1 MHz is not %2 channel centre of %3")
+                       .arg(mhzText(mhz), withArticle(link), band.standard()));
 }
 
 } // namespace
@@ -268,22 +327,21 @@ bool Band::withinEdges(Link link, double mhz) const
 Result<double> Band::frequency(Link link, int channel) const
 {
     const ChBand *data = bandData(*this);
-    if (!data)
-        return invalidBand();
-    const Duplex duplex = cachedDuplex(m_tech, m_band, *data);
-    const int n = recordCount(*data);
-    for (int i = 0; i < n; ++i) {
-        const stSubBand &r = data->SubBands[i];
-        if (holdsChannel(r, channel) && answers(r, link, duplex)) {
-            const double mhz = recordFreq(r, channel);
-            if (std::isfinite(mhz))
-                return mhz;
-            break;
+    if (Q_LIKELY(data)) {
+        const int n = recordCount(*data);
+        const bool tdd = cachedDuplex(m_tech, m_band, *data, n) == Duplex::Tdd;
+        for (int i = 0; i < n; ++i) {
+            const stSubBand &r = data->SubBands[i];
+            if (holdsChannel(r, channel) && !isPlaceholder(r)
+                && servesLinkOfBand(r, int(link), tdd)) {
+                const double mhz = recordFreq(r, channel);
+                if (Q_LIKELY(std::isfinite(mhz)))
+                    return mhz;
+                break;
+            }
         }
     }
-    if (!anyRecord(*data, link, duplex, [](const stSubBand &) { return true; }))
-        return linkNotServed(*this, link);
-    return channelNotInBand(*this, *data, link, duplex, channel);
+    return noFrequency(*this, link, channel);
 }
 
 QList<double> Band::frequencies(Link link, int channel) const
@@ -304,64 +362,40 @@ QList<double> Band::frequencies(Link link, int channel) const
 Result<QList<int>> Band::channelsAt(Link link, double mhz) const
 {
     const ChBand *data = bandData(*this);
-    if (!data)
-        return invalidBand();
-    if (!std::isfinite(mhz))
-        return notFinite();
-    const Duplex duplex = cachedDuplex(m_tech, m_band, *data);
+    if (Q_UNLIKELY(!data || !std::isfinite(mhz)))
+        return noChannelAt(*this, link, mhz);
     QList<int> channels;
-    const bool served = anyRecord(*data, link, duplex, [&](const stSubBand &r) {
-        collectChannelsAt(r, mhz, &channels);
-        return false;
-    });
-    if (!channels.isEmpty())
+    eachSearchedRecord(m_tech, m_band, *data, link, cachedDuplex(m_tech, m_band, *data),
+                       [&](const stSubBand &r, const RecordSearch &facts) {
+                           collectChannelsAt(r, facts, mhz, &channels);
+                       });
+    if (Q_LIKELY(!channels.isEmpty()))
         return channels;
-    if (!served && !anyRecord(*data, link, duplex, [](const stSubBand &) { return true; }))
-        return linkNotServed(*this, link);
-    double low = HUGE_VAL, high = -HUGE_VAL;
-    anyRecord(*data, link, duplex, [&](const stSubBand &r) {
-        if (r.StartChannelNo <= r.StopChannelNo)
-            centreSpan(r, &low, &high);
-        return false;
-    });
-    if (mhz < low - kSameCentreMHz || mhz > high + kSameCentreMHz)
-        return failure(
-            ErrorCode::FrequencyNotInBand,
-            QStringLiteral("%1 MHz lies outside the %2 channels of %3 (%4 to %5 MHz)")
-                .arg(mhzText(mhz), linkWord(link), standard(), mhzText(low), mhzText(high)));
-    return failure(ErrorCode::NotAChannelCentre,
-                   QStringLiteral("%1 MHz is not %2 channel centre of %3")
-                       .arg(mhzText(mhz), withArticle(link), standard()));
+    return noChannelAt(*this, link, mhz);
 }
 
 Result<int> Band::nearestChannel(Link link, double mhz) const
 {
     const ChBand *data = bandData(*this);
-    if (!data)
-        return invalidBand();
-    if (!std::isfinite(mhz))
-        return notFinite();
+    if (Q_UNLIKELY(!data || !std::isfinite(mhz)))
+        return noChannelAt(*this, link, mhz);
     const Duplex duplex = cachedDuplex(m_tech, m_band, *data);
     double low = HUGE_VAL, high = -HUGE_VAL;
     Nearest best;
-    const bool served = anyRecord(*data, link, duplex, [&](const stSubBand &r) {
-        low = std::fmin(low, r.StartFreq);
-        high = std::fmax(high, r.StopFreq);
-        if (r.StartChannelNo <= r.StopChannelNo) {
-            centreSpan(r, &low, &high);
-            offerNearest(r, mhz, &best);
-        }
-        return false;
-    });
-    Q_UNUSED(served)
+    eachSearchedRecord(m_tech, m_band, *data, link, duplex,
+                       [&](const stSubBand &r, const RecordSearch &facts) {
+                           low = std::fmin(low, r.StartFreq);
+                           high = std::fmax(high, r.StopFreq);
+                           centreSpan(r, facts, &low, &high);
+                           offerNearest(r, facts, mhz, &best);
+                       });
+    if (Q_LIKELY(low <= mhz && mhz <= high && best.channel >= 0))
+        return int(best.channel);
     if (!anyRecord(*data, link, duplex, [](const stSubBand &) { return true; }))
         return linkNotServed(*this, link);
-    if (!(low <= mhz && mhz <= high) || best.channel < 0)
-        return failure(
-            ErrorCode::FrequencyNotInBand,
-            QStringLiteral("%1 MHz lies outside the %2 range of %3 (%4 to %5 MHz)")
-                .arg(mhzText(mhz), linkWord(link), standard(), mhzText(low), mhzText(high)));
-    return int(best.channel);
+    return failure(ErrorCode::FrequencyNotInBand,
+                   QStringLiteral("%1 MHz lies outside the %2 range of %3 (%4 to %5 MHz)")
+                       .arg(mhzText(mhz), linkWord(link), standard(), mhzText(low), mhzText(high)));
 }
 
 Result<int> Band::pairedChannel(Link link, int channel) const
@@ -374,11 +408,8 @@ Result<int> Band::pairedChannel(Link link, int channel) const
         return anyRecord(*data, which, duplex,
                          [&](const stSubBand &r) { return holdsChannel(r, int(ch)); });
     };
-    if (!holds(link, channel)) {
-        if (!anyRecord(*data, link, duplex, [](const stSubBand &) { return true; }))
-            return linkNotServed(*this, link);
+    if (!holds(link, channel))
         return channelNotInBand(*this, *data, link, duplex, channel);
-    }
     if (duplex != Duplex::Fdd)
         return failure(ErrorCode::NoPairedChannel,
                        standard() + QLatin1String(" is ") + duplexName(duplex)

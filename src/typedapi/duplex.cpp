@@ -1,8 +1,6 @@
 // The duplex of a band, read from its records and name, and kept per band slot.
 #include "typedapi/typedapi_p.h"
 
-#include <atomic>
-
 namespace saiskuko {
 namespace typed {
 namespace {
@@ -31,7 +29,7 @@ bool nameSays(const QString &band, const char *word)
 // their names say only the frequency ("Band n257 (28 GHz)").
 constexpr double kMillimetreWaveMHz = 24250.0;
 
-Duplex decideDuplex(int tech, const ChBand &band)
+Duplex duplexOfRecords(int tech, const ChBand &band)
 {
     const QString &name = band.BandName;
     // "Band Global" is in the time-division list by name; outside LTE-TDD it
@@ -63,22 +61,15 @@ Duplex decideDuplex(int tech, const ChBand &band)
     return down ? Duplex::Sdl : Duplex::Sul;
 }
 
-// Per band slot: (record count + 1) << 2 | duplex, 0 before the first ask.
-// The count stamps the answer, so that records registered later are seen;
-// racing readers store the same value, so relaxed order suffices.
-std::atomic<quint32> g_duplex[kNumTechSlots][ChTechnology::MaxBands];
-
 } // namespace
 
-Duplex cachedDuplex(int tech, int slot, const ChBand &band)
+std::atomic<quint32> g_duplexOfSlot[kNumTechSlots][ChTechnology::MaxBands];
+
+Duplex decideDuplex(int tech, int slot, const ChBand &band)
 {
     const quint32 stamp = quint32(recordCount(band)) + 1;
-    std::atomic<quint32> &cell = g_duplex[tech][slot];
-    const quint32 kept = cell.load(std::memory_order_relaxed);
-    if ((kept >> 2) == stamp)
-        return Duplex(kept & 3u);
-    const Duplex duplex = decideDuplex(tech, band);
-    cell.store(stamp << 2 | quint32(duplex), std::memory_order_relaxed);
+    const Duplex duplex = duplexOfRecords(tech, band);
+    g_duplexOfSlot[tech][slot].store(stamp << 2 | quint32(duplex), std::memory_order_relaxed);
     return duplex;
 }
 

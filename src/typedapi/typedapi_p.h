@@ -11,6 +11,8 @@
 #include "store/recordrules.h"
 #include "store/technologies.h"
 
+#include <atomic>
+
 namespace saiskuko {
 
 // Builds bands and reads their slots; Band names it its friend.
@@ -40,8 +42,27 @@ inline const ChBand *bandData(const Band &band)
     return b >= 0 && b < tech.NumBand ? &tech.Bands[b] : nullptr;
 }
 
+// Per band slot of the store: (record count + 1) << 2 | duplex, 0 before the
+// first ask. The count stamps the answer, so that records registered later
+// are seen; racing readers store the same value, so relaxed order suffices.
+extern std::atomic<quint32> g_duplexOfSlot[kNumTechSlots][ChTechnology::MaxBands];
+
+// Decides the band's duplex from its records and name, and keeps it.
+Duplex decideDuplex(int tech, int slot, const ChBand &band);
+
 // The band's duplex, decided once per band slot and record count.
-Duplex cachedDuplex(int tech, int slot, const ChBand &band);
+inline Duplex cachedDuplex(int tech, int slot, const ChBand &band, int records)
+{
+    const quint32 stamp = quint32(records) + 1;
+    const quint32 kept = g_duplexOfSlot[tech][slot].load(std::memory_order_relaxed);
+    if (Q_LIKELY((kept >> 2) == stamp))
+        return Duplex(kept & 3u);
+    return decideDuplex(tech, slot, band);
+}
+inline Duplex cachedDuplex(int tech, int slot, const ChBand &band)
+{
+    return cachedDuplex(tech, slot, band, recordCount(band));
+}
 
 // Whether a real record answers for link in a band of that duplex.
 inline bool answers(const stSubBand &record, Link link, Duplex duplex)

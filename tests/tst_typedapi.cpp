@@ -1,0 +1,353 @@
+// The typed API: conversions held to GetFreq and to a walk over every channel,
+// the names it reads, duplex, paired channels and the searches of the store.
+#include "testsupport.h"
+
+#include "store/recordrules.h"
+
+#include <cmath>
+
+using namespace saiskuko;
+
+namespace {
+
+constexpr double kHalfHertz = 0.5e-6;
+
+const char *const kCodeNames[] = {
+    "UnknownTechnology", "UnknownBand",      "AmbiguousName",      "BadName",
+    "LinkNotServed",     "ChannelNotInBand", "FrequencyNotInBand", "NotAChannelCentre",
+    "NoPairedChannel",   "NotFinite"};
+
+// An answer as one string: the value, or "!" and the error's code.
+template <typename T, typename Show>
+QString shown(const Result<T> &r, Show show)
+{
+    return r.ok() ? show(r.value())
+                  : QLatin1String("!") + QLatin1String(kCodeNames[int(r.error().code)]);
+}
+QString shown(const Result<Band> &r)
+{
+    return shown(r, [](const Band &b) { return b.standard(); });
+}
+QString shown(const Result<int> &r)
+{
+    return shown(r, [](int v) { return QString::number(v); });
+}
+QString shown(const Result<QList<int>> &r)
+{
+    return shown(r, [](const QList<int> &v) {
+        QStringList out;
+        for (int c : v)
+            out << QString::number(c);
+        return out.join(QLatin1Char(' '));
+    });
+}
+
+Band band(const char *name)
+{
+    return findBand(QString::fromUtf8(name)).value();
+}
+
+// The definitions walked: every channel of the link's real records in order,
+// those centred within half a hertz of mhz, and the nearest (the first on a tie).
+struct Walked
+{
+    QList<int> at;
+    int nearest = -1;
+};
+Walked walk(const Band &b, Link link, double mhz)
+{
+    const ChBand &data = G_CHSTD.Technologies[int(b.technology())].Bands[b.code() % 100];
+    Walked w;
+    double best = HUGE_VAL;
+    for (int i = 0; i < data.NumSubBand; ++i) {
+        const stSubBand &r = data.SubBands[i];
+        if (isPlaceholder(r) || !servesLinkOfBand(r, int(link), b.duplex() == Duplex::Tdd))
+            continue;
+        for (qint64 ch = r.StartChannelNo; ch <= r.StopChannelNo; ++ch) {
+            const double d = std::fabs(recordFreq(r, int(ch)) - mhz);
+            if (d <= kHalfHertz && !w.at.contains(int(ch)))
+                w.at << int(ch);
+            if (d < best) {
+                best = d;
+                w.nearest = int(ch);
+            }
+        }
+    }
+    return w;
+}
+
+} // namespace
+
+class TestTypedApi : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    // For every band, real record, link, and the record's first, middle and
+    // last channel: the frequency is GetFreq's, and converts back.
+    void conversionsAgreeEverywhere()
+    {
+        LogCapture log;
+        int checked = 0;
+        for (const Band &b : allBands()) {
+            const ChBand &data = G_CHSTD.Technologies[int(b.technology())].Bands[b.code() % 100];
+            for (int i = 0; i < data.NumSubBand; ++i) {
+                const stSubBand &r = data.SubBands[i];
+                if (isPlaceholder(r)) {
+                    // Never answers, but a real record holding the channel may.
+                    const int ch = r.StartChannelNo;
+                    bool real = false;
+                    for (const Record &held : b.records(Link(r.Link)))
+                        real = real || (held.firstChannel <= ch && ch <= held.lastChannel);
+                    QCOMPARE(b.frequency(Link(r.Link), ch).ok(), real);
+                    continue;
+                }
+                const qint64 first = r.StartChannelNo, last = r.StopChannelNo;
+                for (Link link : {Link::Up, Link::Down}) {
+                    for (const qint64 ch : {first, first + (last - first) / 2, last}) {
+                        const QString where = QStringLiteral("%1 link %2 ch %3")
+                                                  .arg(b.standard())
+                                                  .arg(int(link))
+                                                  .arg(ch);
+                        const Result<double> f = b.frequency(link, int(ch));
+                        if (servesLinkOfBand(r, int(link), b.duplex() == Duplex::Tdd))
+                            QVERIFY2(f.ok(), qPrintable(where));
+                        if (!f.ok())
+                            continue;
+                        const double old = G_CHSTD.GetFreq(b.code(), int(link), int(ch));
+                        // GetFreq reads every "Band Global" as time-division, and so
+                        // answers a link of the paired ones from the other's records.
+                        if (old != -1.0 && (!b.isGlobal() || b.duplex() == Duplex::Tdd))
+                            QVERIFY2(old == f.value(), qPrintable(where));
+                        QVERIFY2(b.frequencies(link, int(ch)).contains(f.value()),
+                                 qPrintable(where));
+                        QVERIFY2(b.channelsAt(link, f.value()).value().contains(int(ch)),
+                                 qPrintable(where));
+                        // On the centre, off it and halfway to the next, as the walk
+                        // over every channel finds.
+                        const double step =
+                            first < last ? recordFreq(r, int(first) + 1) - recordFreq(r, int(first))
+                                         : 0.001;
+                        for (double mhz :
+                             {f.value(), f.value() + 0.37 * step, f.value() + 0.5 * step}) {
+                            const Walked w = walk(b, link, mhz);
+                            const Result<QList<int>> at = b.channelsAt(link, mhz);
+                            QCOMPARE(at.ok() ? at.value() : QList<int>(), w.at);
+                            const Result<int> near = b.nearestChannel(link, mhz);
+                            if (near.ok() || mhz == f.value())
+                                QCOMPARE(near.value(), w.nearest);
+                        }
+                        ++checked;
+                    }
+                }
+            }
+        }
+        QVERIFY(checked > 2000);
+        QCOMPARE(log.take(), QStringList());
+    }
+
+    void names_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("expected");
+        const char *const rows[][2] = {
+            {"201", "LTE-FDD - Band 1 (2100)"},
+            {" 0201 ", "LTE-FDD - Band 1 (2100)"},
+            {"LTE-FDD - Band 1 (2100)", "LTE-FDD - Band 1 (2100)"},
+            {"5G NR - Band n78 (TD 3500)", "5G NR - Band n78 (TD 3500)"},
+            {"LTE-FDD - band 1 (2100)", "!UnknownBand"},
+            {"LTE - Band 1 (2100)", "!UnknownTechnology"},
+            {"LTE:1", "LTE-FDD - Band 1 (2100)"},
+            {"lte:1", "LTE-FDD - Band 1 (2100)"},
+            {"FDD:1", "LTE-FDD - Band 1 (2100)"},
+            {"lte-fdd:B1", "LTE-FDD - Band 1 (2100)"},
+            {"LTE:band1", "LTE-FDD - Band 1 (2100)"},
+            {"B1", "LTE-FDD - Band 1 (2100)"},
+            {"b1", "LTE-FDD - Band 1 (2100)"},
+            {"Band1", "LTE-FDD - Band 1 (2100)"},
+            {"LTE:07", "LTE-FDD - Band 7 (2600)"},
+            {"LTE:33", "LTE-TDD - Band 33 (1900)"},
+            {"NR:n78", "5G NR - Band n78 (TD 3500)"},
+            {"5g:78", "5G NR - Band n78 (TD 3500)"},
+            {"NR:n078", "5G NR - Band n78 (TD 3500)"},
+            {"N78", "5G NR - Band n78 (TD 3500)"},
+            {"n78 ", "5G NR - Band n78 (TD 3500)"},
+            {"bc0", "CDMA - Band 0 (800)"},
+            {"CDMA:bc10", "CDMA - Band 10 (2nd 800)"},
+            {"WCDMA:VIII", "WCDMA - Band 8 (900-General)"},
+            {"umts:i", "WCDMA - Band 1 (2100-General)"},
+            {"WCDMA:IV", "!AmbiguousName"},
+            {"WCDMA:2-additional", "WCDMA - Band 2 (1900-Additional)"},
+            {"WCDMA:21-3500", "WCDMA - Band 21 (3500-General)"},
+            {"GSM:dcs1800", "GSM - DCS 1800"},
+            {"GSM:dcs", "GSM - DCS 1800"},
+            {"GSM:e900", "GSM - E-GSM 900"},
+            {"GSM:r900china", "GSM - R-GSM 900 (China)"},
+            {"GSM:900", "!AmbiguousName"},
+            {"TDS:3", "TD-SCDMA - FBN 3"},
+            {"WIMAX:r12", "WIMAX - ProfR12 (7 3463)"},
+            {"LTE:global", "!AmbiguousName"},
+            {"TDD:global", "LTE-TDD - Band Global"},
+            {"LTE:IV", "!UnknownBand"},
+            {"LTE:1x", "!UnknownBand"},
+            {"LTE:1:2", "!UnknownBand"},
+            {"LTE:", "!BadName"},
+            {"FOO:1", "!UnknownTechnology"},
+            {"n78x", "!BadName"},
+            {"", "!BadName"},
+            {"-1", "!BadName"},
+            {"238", "!UnknownBand"},
+            {"99999999999999999999", "!UnknownBand"},
+        };
+        for (const auto &row : rows)
+            QTest::newRow(row[0]) << str(row[0]) << str(row[1]);
+    }
+    void names()
+    {
+        QFETCH(QString, text);
+        QFETCH(QString, expected);
+        QCOMPARE(shown(findBand(text)), expected);
+    }
+
+    void technologiesAndMessages()
+    {
+        const auto tech = [](const char *text) {
+            return shown(findTechnology(str(text)), [](Technology t) { return technologyName(t); });
+        };
+        QCOMPARE(tech("fdd") + tech(" NR ") + tech("umts") + tech("tds") + tech("lte") + tech(""),
+                 str("LTE-FDD5G NRWCDMATD-SCDMA!AmbiguousName!UnknownTechnology"));
+        QCOMPARE(findTechnology(u"lte").error().message,
+                 str("technology \"lte\" is ambiguous; it matches: LTE-FDD, LTE-TDD"));
+        QCOMPARE(
+            findTechnology(u"foo").error().message,
+            str("unknown technology \"foo\"; technologies: CDMA, GSM, LTE-FDD, LTE-TDD, "
+                "TD-SCDMA, WCDMA, WIMAX, 5G NR (short forms: fdd, lte, tdd, tds, umts, nr, 5g)"));
+        QCOMPARE(
+            bandByCode(-5).error().message,
+            str("no band has code -5; codes: 0-10 CDMA, 100-108 GSM, 200-237 LTE-FDD, "
+                "300-316 LTE-TDD, 400-408 TD-SCDMA, 500-532 WCDMA, 600-618 WIMAX, 700-735 5G NR"));
+        QCOMPARE(findBand(u"LTE:global").error().message,
+                 str("band \"LTE:global\" is ambiguous; it matches: LTE-FDD - Band Global [200], "
+                     "LTE-TDD - Band Global [300]"));
+        QCOMPARE(findBand(QString(50, QLatin1Char('x'))).error().message,
+                 QLatin1String("cannot read band \"") + QString(40, QLatin1Char('x'))
+                     + str("...\": give a code (201), a channel standard (\"LTE-FDD - Band 1 "
+                           "(2100)\") or TECH:BAND (LTE:1, NR:n78)"));
+        QCOMPARE(technologyShortForms(Technology::Nr), QStringList({str("nr"), str("5g")}));
+        // Every band is named by its code and by its short name, where it has one.
+        const QList<Band> all = allBands();
+        QCOMPARE(all.size(), 172);
+        for (const Band &b : all) {
+            QCOMPARE(bandByCode(b.code()).value(), b);
+            QVERIFY(b.shortName().isEmpty() || findBand(b.shortName()).value() == b);
+        }
+        QCOMPARE(band("n78").shortName(), str("NR:n78"));
+    }
+
+    void duplexAndLinks()
+    {
+        const char *const rows[][3] = {
+            {"LTE:1", "FDD", "1 0"},     {"NR:n78", "TDD", "1 0"},     {"NR:n41", "TDD", "1 0"},
+            {"NR:n77", "TDD", "1 0"},    {"NR:n257", "TDD", "1 0"},    {"NR:n75", "SDL", "0"},
+            {"NR:n80", "SUL", "1"},      {"TDD:global", "TDD", "1 0"}, {"FDD:global", "FDD", "1 0"},
+            {"NR:global", "FDD", "1 0"}, {"WIMAX:1", "TDD", "1 0"},    {"WIMAX:6", "FDD", "1 0"},
+            {"TDS:0", "TDD", "1 0"},     {"GSM:dcs", "FDD", "1 0"}};
+        for (const auto &row : rows) {
+            const Band b = band(row[0]);
+            QStringList links;
+            for (Link link : b.links())
+                links << QString::number(int(link));
+            QCOMPARE(duplexName(b.duplex()) + QLatin1Char(' ') + links.join(QLatin1Char(' ')),
+                     str(row[1]) + QLatin1Char(' ') + str(row[2]));
+        }
+        QVERIFY(band("FDD:global").isGlobal() && !band("LTE:1").isGlobal());
+    }
+
+    void conversionsThatFail()
+    {
+        const Band lte1 = band("LTE:1"), n75 = band("NR:n75"), nr1 = band("NR:n1");
+        const auto paired = [](const Band &b, Link link, int ch) {
+            return shown(b.pairedChannel(link, ch));
+        };
+        QCOMPARE(paired(lte1, Link::Down, 300) + paired(lte1, Link::Up, 18300)
+                     + paired(nr1, Link::Down, 422000) + paired(lte1, Link::Down, 700),
+                 str("18300300384000!ChannelNotInBand"));
+        QCOMPARE(paired(lte1, Link::Up, 300) + paired(band("NR:n78"), Link::Down, 630000)
+                     + paired(n75, Link::Down, 290000) + paired(band("bc0"), Link::Down, 300)
+                     + paired(Band(), Link::Down, 300) + paired(n75, Link::Up, 290000),
+                 str("!ChannelNotInBand!NoPairedChannel!NoPairedChannel!NoPairedChannel"
+                     "!UnknownBand!ChannelNotInBand"));
+        QCOMPARE(lte1.frequency(Link::Down, 700).error().message,
+                 str("channel 700 is not a downlink channel of LTE-FDD - Band 1 (2100); "
+                     "channels: 0-599"));
+        QCOMPARE(shown(n75.channelsAt(Link::Up, 1500.0)) + shown(lte1.channelsAt(Link::Down, kNaN))
+                     + shown(lte1.channelsAt(Link::Down, 100.0))
+                     + shown(lte1.channelsAt(Link::Down, 2140.05))
+                     + shown(lte1.nearestChannel(Link::Down, kInf))
+                     + shown(lte1.nearestChannel(Link::Down, 2200.0))
+                     + shown(lte1.nearestChannel(Link::Down, 2110.04)),
+                 str("!LinkNotServed!NotFinite!FrequencyNotInBand!NotAChannelCentre!NotFinite"
+                     "!FrequencyNotInBand0"));
+        QCOMPARE(shown(band("bc5").channelsAt(Link::Up, 455.65)), str("227 1256"));
+        QVERIFY(!Band().frequency(Link::Down, 0).ok() && Band().standard().isEmpty());
+        QVERIFY(lte1.withinEdges(Link::Down, 2110.0) && !lte1.withinEdges(Link::Down, 2170.1));
+        const QList<Record> records = lte1.records(Link::Up);
+        QCOMPARE(records.size(), 1);
+        QCOMPARE(nums({records[0].firstChannel, records[0].lastChannel, records[0].firstMHz,
+                       records[0].lowEdgeMHz, records[0].highEdgeMHz}),
+                 str("18000 18599 1920 1920 1980"));
+        QVERIFY(std::fabs(records[0].stepMHz - 0.1) < 1e-9);
+    }
+
+    void searches()
+    {
+        QStringList hits;
+        double lastOffset = 0.0;
+        for (const SearchHit &hit : search(1950.0)) {
+            hits << QStringLiteral("%1/%2/%3")
+                        .arg(hit.band.code())
+                        .arg(int(hit.link))
+                        .arg(hit.channel);
+            QVERIFY(!hit.band.isGlobal() && std::fabs(hit.offsetMHz) >= lastOffset);
+            lastOffset = std::fabs(hit.offsetMHz);
+            QCOMPARE(hit.channelMHz, hit.band.frequency(hit.link, hit.channel).value());
+            QVERIFY(std::fabs(hit.channelMHz - 1950.0 - hit.offsetMHz) < 1e-9);
+        }
+        for (const char *hit :
+             {"201/1/18300", "304/1/37150", "304/0/37150", "501/1/9750", "701/1/390000"})
+            QVERIFY2(hits.contains(str(hit)), hit);
+        QVERIFY(search(kNaN).isEmpty() && search(100000.0).isEmpty());
+        QList<int> codes;
+        for (const Band &b : bandsWithChannel(18300))
+            codes << b.code();
+        QCOMPARE(codes, QList<int>({201}));
+        for (const Band &b : allBands()) {
+            bool holds = false;
+            for (Link link : b.links())
+                for (const Record &r : b.records(link))
+                    holds = holds || (r.firstChannel <= 300 && 300 <= r.lastChannel);
+            QCOMPARE(bandsWithChannel(300).contains(b), holds && !b.isGlobal());
+        }
+    }
+
+    // Last: it registers records into G_CHSTD. A formula the library does not
+    // know over four million channels, and a duplex that follows new records.
+    void recordsRegisteredLater()
+    {
+        LogCapture quiet;
+        const auto formula = [](int ch, double base, int) { return base + ch * 0.001; };
+        G_CHSTD.SetBandInfo(str("GSM"), str("Test 1 (DL 900)"), 0, 1 << 22, 900.0, 5100.0, 900.0, 3,
+                            0, formula, false);
+        const Band b = findBand(u"GSM:test1dl900").value();
+        QCOMPARE(duplexName(b.duplex()), str("SDL"));
+        QCOMPARE(shown(b.channelsAt(Link::Down, 900.0 + 3000000 * 0.001)), str("3000000"));
+        QCOMPARE(shown(b.nearestChannel(Link::Down, 900.0 + 1234567.4 * 0.001)), str("1234567"));
+        G_CHSTD.SetBandInfo(str("GSM"), str("Test 1 (DL 900)"), 0, 10, 800.0, 801.0, 800.0, 3, 1,
+                            formula, false);
+        QCOMPARE(duplexName(b.duplex()), str("FDD"));
+        QCOMPARE(shown(b.channelsAt(Link::Up, 800.004)), str("4"));
+    }
+};
+
+QTEST_APPLESS_MAIN(TestTypedApi)
+#include "tst_typedapi.moc"
