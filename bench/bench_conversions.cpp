@@ -1,9 +1,11 @@
-// Single conversions by names, by channel standard text and by enumerator, beside a direct
-// call of the record's own formula (the floor for this work), with the ratios printed last.
+// Single conversions by names, by channel standard text, by enumerator and by a typed Band,
+// beside a direct call of the record's own formula (the floor for this work), with the ratios
+// printed last; and finding a typed Band by the names engineers write.
 
 #include "messagecapture.h"
 #include "timingreporter.h"
 
+#include <saiskuko/bandplan.h>
 #include <saiskuko/saiskuko.h>
 
 #include <benchmark/benchmark.h>
@@ -98,23 +100,47 @@ void registerCase(const Case &c, int link)
     SAISKUKO_BENCH("IsExistChannelNo/code", s.IsExistChannelNo(code, link, ch));
     SAISKUKO_BENCH("GetStartChannelNo/names", s.GetStartChannelNo(tech, band, link));
     SAISKUKO_BENCH("GetStartChannelNo/code", s.GetStartChannelNo(code, link));
+    // A Band found once: no names, no copies.
+    const saiskuko::Band typed = saiskuko::findBand(standard).value();
+    const saiskuko::Link typedLink = link ? saiskuko::Link::Up : saiskuko::Link::Down;
+    SAISKUKO_BENCH("Band::frequency/typed", typed.frequency(typedLink, ch));
+    SAISKUKO_BENCH("Band::channelsAt/typed", typed.channelsAt(typedLink, mhz));
+    SAISKUKO_BENCH("Band::nearestChannel/typed", typed.nearestChannel(typedLink, mhz));
 #undef SAISKUKO_BENCH
 }
 
-// Sets every query against the direct formula call of its own band and link.
+// Finding a Band by what a user types: short forms and a whole channel standard text.
+void registerFindBand()
+{
+    for (const char *name : {"LTE:1", "n78", "B7", "LTE-FDD - Band 1 (2100)"}) {
+        const QString held = QString::fromUtf8(name);
+        benchmark::RegisterBenchmark((std::string("findBand/") + name).c_str(),
+                                     [held](benchmark::State &st) {
+                                         for (auto _ : st)
+                                             benchmark::DoNotOptimize(saiskuko::findBand(held));
+                                     });
+    }
+}
+
+// Sets every query against the direct formula call of its own band and link; a query
+// that has none (finding a band) gets its time alone.
 class RatioReporter : public TimingReporter
 {
 public:
     void printRatios() const
     {
-        std::printf("\n%-40s %10s %10s\n", "query / form / band / link", "ns", "x formula");
+        std::printf("\n%-44s %10s %10s\n", "query / form / band / link", "ns", "x formula");
         for (const auto &[name, ns] : nanoseconds) {
-            const std::size_t band = name.find('/', name.find('/') + 1);
-            if (name.rfind("Formula/", 0) == 0 || band == std::string::npos)
+            if (name.rfind("Formula/", 0) == 0)
                 continue;
-            const auto floor = nanoseconds.find("Formula" + name.substr(band));
+            const std::size_t band = name.find('/', name.find('/') + 1);
+            const auto floor = band == std::string::npos
+                                   ? nanoseconds.end()
+                                   : nanoseconds.find("Formula" + name.substr(band));
             if (floor != nanoseconds.end() && floor->second > 0.0)
-                std::printf("%-40s %10.1f %10.1f\n", name.c_str(), ns, ns / floor->second);
+                std::printf("%-44s %10.1f %10.1f\n", name.c_str(), ns, ns / floor->second);
+            else
+                std::printf("%-44s %10.1f %10s\n", name.c_str(), ns, "-");
         }
     }
 };
@@ -128,5 +154,6 @@ int main(int argc, char **argv)
         registerCase(c, 0);
         registerCase(c, 1);
     }
+    registerFindBand();
     return runAndPrintRatios<RatioReporter>(argc, argv);
 }

@@ -17,15 +17,20 @@ public:
     void ReportRuns(const std::vector<Run> &runs) override
     {
         for (const Run &run : runs) {
-            if (run.run_type == Run::RT_Iteration && run.iterations > 0)
-                nanoseconds[run.benchmark_name()] =
-                    run.GetAdjustedRealTime() * 1e9
-                    / benchmark::GetTimeUnitMultiplier(run.time_unit);
+            if (run.run_type == Run::RT_Iteration && run.iterations > 0) {
+                // The mean of the repetitions (--benchmark_repetitions), one at a time.
+                const double ns = run.GetAdjustedRealTime() * 1e9
+                                  / benchmark::GetTimeUnitMultiplier(run.time_unit);
+                const std::string name = run.benchmark_name();
+                const int n = ++repetitions[name];
+                nanoseconds[name] += (ns - nanoseconds[name]) / n;
+            }
         }
         ConsoleReporter::ReportRuns(runs);
     }
 
-    std::map<std::string, double> nanoseconds; // by benchmark name
+    std::map<std::string, double> nanoseconds; // by benchmark name, mean of its repetitions
+    std::map<std::string, int> repetitions;
 };
 
 // Runs the benchmarks the command line selects, then prints the ratios of a

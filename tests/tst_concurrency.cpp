@@ -2,13 +2,18 @@
 // keystroke of the instrument's UI: any number of threads may query it at
 // once, each getting exactly the answers one thread gets alone with every log
 // line arriving once (also run under ThreadSanitizer), and the numeric queries
-// must not touch the heap (malloc, calloc and realloc are counted).
+// must not touch the heap (malloc, calloc and realloc are counted). The typed
+// API is asked from cold, so that its threads race to fill whatever it builds
+// on first use.
 #include "testsupport.h"
+
+#include <saiskuko/bandplan.h>
 
 #include <atomic>
 #include <climits>
 #include <functional>
 #include <thread>
+#include <tuple>
 #include <vector>
 
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
@@ -105,6 +110,41 @@ std::vector<std::function<QString()>> allQueries()
     return q;
 }
 
+// Everything the typed API answers about a band and link, at its first channel and
+// that channel's frequency, found by code and by text alike.
+QString typedAnswers(int code, const QString &standard, int l, int ch, double mhz)
+{
+    using namespace saiskuko;
+    const Band b = bandByCode(code).value();
+    const Link link = Link(l);
+    const QList<double> centres = b.frequencies(link, ch);
+    const QList<int> at = b.channelsAt(link, mhz).valueOr({-1});
+    QString hits;
+    for (const SearchHit &h : search(mhz))
+        hits += nums({h.band.code(), int(h.link), h.channel, h.offsetMHz});
+    return nums({findBand(standard).value().code(), findBand(b.shortName()).value().code(),
+                 int(b.duplex()), int(b.links().size()), int(b.records(link).size()),
+                 b.withinEdges(link, mhz), b.frequency(link, ch).valueOr(-1.0),
+                 centres.value(0, -1.0), at.value(0), int(at.size()),
+                 b.nearestChannel(link, mhz + 0.001).valueOr(-1),
+                 b.pairedChannel(link, ch).valueOr(-1), int(bandsWithChannel(ch).size()),
+                 int(findTechnology(b.technologyName()).value())})
+           + hits + b.frequency(link, INT_MIN).error().message;
+}
+
+#if SAISKUKO_COUNT_ALLOCATIONS
+// A thread's allocations over ten calls of a query (after one that may build caches).
+template <typename Query>
+long allocationsOf(Query query)
+{
+    query();
+    const long before = g_allocations.load();
+    for (int i = 0; i < 10; ++i)
+        query();
+    return g_allocations.load() - before;
+}
+#endif
+
 } // namespace
 
 class TestConcurrency : public QObject
@@ -112,6 +152,7 @@ class TestConcurrency : public QObject
     Q_OBJECT
 
 private slots:
+    void typedReadersAgreeFromCold(); // first: nothing of the typed API has run yet
     void readersAgree();
     // Every numeric query by names, by enumerator and by the name alone, on
     // both kinds of band, both links, and on unknown names (which select slot 0).
@@ -149,12 +190,93 @@ private slots:
                 ask();
             QCOMPARE(g_allocations.load() - before, 0L);
         }
+        // Successful conversions only: a failure carries its message.
+        using saiskuko::Link;
+        for (const auto &[name, link, ch, paired] :
+             {std::make_tuple("LTE:1", Link::Down, 300, true),
+              std::make_tuple("LTE:1", Link::Up, 18300, true),
+              std::make_tuple("NR:n78", Link::Down, 630000, false),
+              std::make_tuple("GSM - P-GSM 900", Link::Up, 1, false)}) {
+            const saiskuko::Band b = saiskuko::findBand(str(name)).valueOr({});
+            const double mhz = b.frequency(link, ch).valueOr(0.0);
+            QVERIFY2(b.nearestChannel(link, mhz + 0.001).valueOr(-1) == ch, name);
+            QCOMPARE(b.pairedChannel(link, ch).ok(), paired);
+            QCOMPARE(allocationsOf([&, link = link, ch = ch, paired = paired] {
+                         return b.frequency(link, ch).value() + b.nearestChannel(link, mhz).value()
+                                + (paired ? b.pairedChannel(link, ch).value() : 0);
+                     }),
+                     0L);
+            QCOMPARE(
+                allocationsOf([&, link = link] { return b.channelsAt(link, mhz).value().size(); }),
+                10L); // its list alone
+        }
         const long before = g_allocations.load(); // the counter sees Qt's allocations
         QString grown(100, QLatin1Char('x'));
         QVERIFY(g_allocations.load() > before);
 #endif
     }
 };
+
+void TestConcurrency::typedReadersAgreeFromCold()
+{
+    struct Ask
+    {
+        int code, link, ch;
+        double mhz;
+        QString standard;
+    };
+    std::vector<Ask> asks; // read from the compatible interface: the typed API stays cold
+    forEachBand(G_CHSTD, [&](const ChTechnology &t, const ChBand &band, int code) {
+        for (const int link : {0, 1}) {
+            const int ch = G_CHSTD.GetStartChannelNo(code, link);
+            asks.push_back({code, link, ch, G_CHSTD.GetFreq(code, link, ch),
+                            t.TechName + str(" - ") + band.BandName});
+        }
+    });
+    const QString band7 =
+        QString::number(G_CHSTD.GetEnumulator(str("LTE-FDD"), str("Band 7 (2600)")));
+    const QtMessageHandler oldHandler = qInstallMessageHandler(countLine);
+    g_warnings = g_debugs = 0;
+
+    constexpr int kThreads = 8;
+    const int n = int(asks.size());
+    std::vector<QStringList> answers(kThreads, QStringList());
+    std::atomic<int> waiting{kThreads};
+    std::vector<std::thread> threads;
+    for (int t = 0; t < kThreads; ++t) {
+        threads.emplace_back([&, t] {
+            for (--waiting; waiting > 0;) // all start together
+                std::this_thread::yield();
+            if (t % 2) // half of them find their first band by name
+                answers[t] << QString::number(saiskuko::findBand(str("B7")).value().code());
+            for (int k = 0; k < n; ++k) {
+                const Ask &a = asks[(k + t * n / kThreads) % n];
+                answers[t] << typedAnswers(a.code, a.standard, a.link, a.ch, a.mhz);
+            }
+        });
+    }
+    for (std::thread &thread : threads)
+        thread.join();
+    qInstallMessageHandler(oldHandler);
+
+    QStringList alone;
+    for (const Ask &a : asks)
+        alone << typedAnswers(a.code, a.standard, a.link, a.ch, a.mhz);
+    for (int t = 0; t < kThreads; ++t) {
+        const int first = t % 2;
+        if (first)
+            QCOMPARE(answers[t][0], band7);
+        for (int k = 0; k < n; ++k) {
+            const int i = (k + t * n / kThreads) % n;
+            if (answers[t][first + k] != alone[i])
+                QFAIL(qPrintable(str("thread %1, band %2: %3 instead of %4")
+                                     .arg(t)
+                                     .arg(asks[i].code)
+                                     .arg(answers[t][first + k], alone[i])));
+        }
+    }
+    QCOMPARE(g_warnings.load() + g_debugs.load(), 0); // the typed API writes no log line
+}
 
 void TestConcurrency::readersAgree()
 {

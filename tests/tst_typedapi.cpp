@@ -76,6 +76,12 @@ Walked walk(const Band &b, Link link, double mhz)
     return w;
 }
 
+QString recordText(const Record &r)
+{
+    return nums({int(r.link), r.firstChannel, r.lastChannel, r.lowEdgeMHz, r.highEdgeMHz,
+                 r.firstMHz, r.lastMHz, r.stepMHz});
+}
+
 } // namespace
 
 class TestTypedApi : public QObject
@@ -184,6 +190,9 @@ private slots:
             {"GSM:e900", "GSM - E-GSM 900"},
             {"GSM:r900china", "GSM - R-GSM 900 (China)"},
             {"GSM:900", "!AmbiguousName"},
+            {"GSM:450", "GSM - GSM 450"},
+            {"GSM:480", "GSM - GSM 480"},
+            {"GSM:850", "GSM - GSM 850"},
             {"TDS:3", "TD-SCDMA - FBN 3"},
             {"WIMAX:r12", "WIMAX - ProfR12 (7 3463)"},
             {"LTE:global", "!AmbiguousName"},
@@ -234,12 +243,20 @@ private slots:
                      + str("...\": give a code (201), a channel standard (\"LTE-FDD - Band 1 "
                            "(2100)\") or TECH:BAND (LTE:1, NR:n78)"));
         QCOMPARE(technologyShortForms(Technology::Nr), QStringList({str("nr"), str("5g")}));
+        // As GetDefaultIntBW answers for the name: its fallback for 5G NR and a free slot.
+        QStringList bandwidths;
+        for (int t = 0; t <= kNumTechSlots; ++t)
+            bandwidths << nums({defaultIntegrationBandwidthHz(Technology(t))});
+        QCOMPARE(bandwidths.join(QLatin1Char(' ')),
+                 str("1230000 300000 10000000 10000000 1280000 3840000 10000000 1000000 1000000"));
         // Every band is named by its code and by its short name, where it has one.
         const QList<Band> all = allBands();
         QCOMPARE(all.size(), 172);
         for (const Band &b : all) {
             QCOMPARE(bandByCode(b.code()).value(), b);
             QVERIFY(b.shortName().isEmpty() || findBand(b.shortName()).value() == b);
+            QVERIFY2(b.technology() != Technology::Gsm || !b.shortName().isEmpty(),
+                     qPrintable(b.standard()));
         }
         QCOMPARE(band("n78").shortName(), str("NR:n78"));
     }
@@ -297,6 +314,48 @@ private slots:
                        records[0].lowEdgeMHz, records[0].highEdgeMHz}),
                  str("18000 18599 1920 1920 1980"));
         QVERIFY(std::fabs(records[0].stepMHz - 0.1) < 1e-9);
+    }
+
+    // records() is the band's table less its placeholders, in order (the global
+    // bands interleave their links irregularly); records(link) keeps that order;
+    // recordCount() counts the placeholders too.
+    void everyRecord()
+    {
+        int placeholders = 0;
+        for (const Band &b : allBands()) {
+            const ChBand &data = G_CHSTD.Technologies[int(b.technology())].Bands[b.code() % 100];
+            QStringList table;
+            for (int i = 0; i < data.NumSubBand; ++i) {
+                const stSubBand &r = data.SubBands[i];
+                const double first = recordFreq(r, r.StartChannelNo);
+                const double step = r.StartChannelNo < r.StopChannelNo
+                                        ? recordFreq(r, r.StartChannelNo + 1) - first
+                                        : 0.0;
+                if (isPlaceholder(r))
+                    ++placeholders;
+                else
+                    table << nums({r.Link, r.StartChannelNo, r.StopChannelNo, r.StartFreq,
+                                   r.StopFreq, first, recordFreq(r, r.StopChannelNo), step});
+            }
+            QStringList listed;
+            for (const Record &r : b.records())
+                listed << recordText(r);
+            QCOMPARE(listed, table);
+            QCOMPARE(b.recordCount(), data.NumSubBand);
+            for (Link link : {Link::Up, Link::Down}) {
+                int at = 0;
+                for (const Record &r : b.records(link)) {
+                    while (at < listed.size() && listed[at] != recordText(r))
+                        ++at;
+                    QVERIFY2(at++ < listed.size(), qPrintable(b.standard()));
+                }
+            }
+        }
+        QVERIFY(placeholders > 0);
+        const Band n75 = band("NR:n75");
+        QCOMPARE(nums({n75.recordCount(), n75.records().size(), Band().recordCount(),
+                       Band().records().size()}),
+                 str("2 1 0 0"));
     }
 
     void searches()

@@ -152,6 +152,14 @@ public:
     QList<Link> links() const;
     /// Its real records that answer for @p link, in registration order.
     QList<Record> records(Link link) const;
+    /// Every real record of the band, in registration order, each once with
+    /// its own link (the links of a global band follow no pattern). Empty for
+    /// an invalid band.
+    QList<Record> records() const;
+    /// How many records the band was registered with, placeholders for a
+    /// missing direction included (so at least records().size()); 0 for an
+    /// invalid band.
+    int recordCount() const;
     /// True when @p mhz lies within the stated edges of a record of @p link
     /// (to half a hertz).
     bool withinEdges(Link link, double mhz) const;
@@ -220,7 +228,9 @@ SAISKUKO_EXPORT QString technologyName(Technology technology);
 /// The short forms findTechnology() accepts besides the name, lower case
 /// ("nr", "5g"). "lte" names both LTE technologies.
 SAISKUKO_EXPORT QStringList technologyShortForms(Technology technology);
-/// The technology's default integration bandwidth in Hz (0 where it has none).
+/// The technology's default integration bandwidth in Hz: what
+/// ChBandStore::GetDefaultIntBW answers for its name, so the 1 MHz fallback
+/// for a technology without its own (5G NR) or a slot not in use.
 SAISKUKO_EXPORT double defaultIntegrationBandwidthHz(Technology technology);
 /// A technology by its name or a short form, case aside ("LTE-FDD", "fdd",
 /// "nr"). Fails with UnknownTechnology (listing the names) or AmbiguousName.

@@ -120,7 +120,9 @@ QStringList shortKeys(const QString &name)
         if (letters > 1)
             keys << compact.left(letters);
     }
+    // "GSM 450" gives 450 twice; a key listed twice would name its band twice.
     keys.removeAll(QString());
+    keys.removeDuplicates();
     return keys;
 }
 
@@ -512,8 +514,7 @@ QStringList technologyShortForms(Technology technology)
 
 double defaultIntegrationBandwidthHz(Technology technology)
 {
-    const int t = int(technology);
-    return t >= 0 && t < kNumTechSlots ? kTechnologies[t].defaultIntBwHz : 0.0;
+    return store().GetDefaultIntBW(technologyName(technology));
 }
 
 Result<Technology> findTechnology(QStringView text)

@@ -238,6 +238,22 @@ void offerNearest(const stSubBand &r, const RecordSearch &facts, double mhz, Nea
         best->consider(ch, centreOf(r, ch), mhz);
 }
 
+// The record as the typed API reports it.
+Record reported(const stSubBand &r)
+{
+    Record record;
+    record.link = r.Link == 1 ? Link::Up : Link::Down;
+    record.firstChannel = r.StartChannelNo;
+    record.lastChannel = r.StopChannelNo;
+    record.lowEdgeMHz = r.StartFreq;
+    record.highEdgeMHz = r.StopFreq;
+    record.firstMHz = recordFreq(r, r.StartChannelNo);
+    record.lastMHz = recordFreq(r, r.StopChannelNo);
+    if (r.StartChannelNo < r.StopChannelNo)
+        record.stepMHz = recordFreq(r, r.StartChannelNo + 1) - record.firstMHz;
+    return record;
+}
+
 // Why Band::frequency has no answer (out of line: the answer's path stays short).
 Q_NEVER_INLINE Result<double> noFrequency(const Band &band, Link link, int channel)
 {
@@ -298,20 +314,28 @@ QList<Record> Band::records(Link link) const
     if (!data)
         return out;
     anyRecord(*data, link, cachedDuplex(m_tech, m_band, *data), [&](const stSubBand &r) {
-        Record record;
-        record.link = r.Link == 1 ? Link::Up : Link::Down;
-        record.firstChannel = r.StartChannelNo;
-        record.lastChannel = r.StopChannelNo;
-        record.lowEdgeMHz = r.StartFreq;
-        record.highEdgeMHz = r.StopFreq;
-        record.firstMHz = recordFreq(r, r.StartChannelNo);
-        record.lastMHz = recordFreq(r, r.StopChannelNo);
-        if (r.StartChannelNo < r.StopChannelNo)
-            record.stepMHz = recordFreq(r, r.StartChannelNo + 1) - record.firstMHz;
-        out << record;
+        out << reported(r);
         return false;
     });
     return out;
+}
+
+QList<Record> Band::records() const
+{
+    QList<Record> out;
+    const ChBand *data = bandData(*this);
+    const int n = data ? ::recordCount(*data) : 0;
+    for (int i = 0; i < n; ++i) {
+        if (!isPlaceholder(data->SubBands[i]))
+            out << reported(data->SubBands[i]);
+    }
+    return out;
+}
+
+int Band::recordCount() const
+{
+    const ChBand *data = bandData(*this);
+    return data ? ::recordCount(*data) : 0;
 }
 
 bool Band::withinEdges(Link link, double mhz) const
@@ -327,7 +351,7 @@ Result<double> Band::frequency(Link link, int channel) const
 {
     const ChBand *data = bandData(*this);
     if (Q_LIKELY(data)) {
-        const int n = recordCount(*data);
+        const int n = ::recordCount(*data);
         const bool tdd = cachedDuplex(m_tech, m_band, *data, n) == Duplex::Tdd;
         for (int i = 0; i < n; ++i) {
             const stSubBand &r = data->SubBands[i];
