@@ -66,7 +66,7 @@ bool overlapsWindow(const Record &record, double low, double high)
 QList<ChartBar> barsOf(const Band &band, double low, double high)
 {
     QList<ChartBar> bars;
-    for (const Record &r : recordsInOrder(band)) {
+    for (const Record &r : band.records()) {
         if (!overlapsWindow(r, low, high))
             continue;
         const BarKind kind = barKindOf(band, r);

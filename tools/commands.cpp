@@ -113,12 +113,10 @@ Outcome runTechs(const QStringList &, const CommandOptions &)
                            ">INT BW HZ|defaultIntegrationBandwidthHz", "SHORT|shortForms"});
     for (saiskuko::Technology tech : saiskuko::technologies()) {
         const QStringList forms = saiskuko::technologyShortForms(tech);
-        // The compatible interface's bandwidth: it falls back to 1 MHz for 5G NR.
-        const QString name = saiskuko::technologyName(tech);
         out.rows << Row{int(tech),
-                        name,
+                        saiskuko::technologyName(tech),
                         saiskuko::bands(tech).size(),
-                        ChStd::GetChStdPointer()->GetDefaultIntBW(name),
+                        saiskuko::defaultIntegrationBandwidthHz(tech),
                         {QJsonArray::fromStringList(forms),
                          forms.isEmpty() ? QStringLiteral("-") : forms.join(QLatin1Char(','))}};
     }
@@ -152,7 +150,7 @@ Outcome runBands(const QStringList &args, const CommandOptions &)
                         global ? QStringLiteral("(all bands)") : channelCell.text}
                 << Cell{QJsonValue(), global ? QStringLiteral("(all bands)") : edgeCell.text};
         }
-        row << registeredRecordCount(band) << saiskuko::duplexName(band.duplex())
+        row << band.recordCount() << saiskuko::duplexName(band.duplex())
             << band.technologyName() << band.standard() << band.isGlobal();
         out.rows << row;
     }
@@ -166,7 +164,7 @@ Outcome runBand(const QStringList &args, const CommandOptions &)
     out.columns =
         columns({"DIR|direction", "CHANNELS|channels", "EDGES MHZ|edgesMHz", "FIRST MHZ|firstMHz",
                  "LAST MHZ|lastMHz", "STEP MHZ|stepMHz", "DUPLEX|", ">PAIR OFFSET|pairOffset"});
-    for (const Record &r : recordsInOrder(band)) {
+    for (const Record &r : band.records()) {
         const saiskuko::Result<int> paired = band.pairedChannel(r.link, r.firstChannel);
         const int offset = (paired.value() - r.firstChannel) * (r.link == Link::Up ? -1 : 1);
         out.rows << Row{{linkWord(r.link), linkShort(r.link)},

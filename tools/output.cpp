@@ -2,8 +2,6 @@
 // diagnostics go.
 #include "output.h"
 
-#include <saiskuko/saiskuko.h>
-
 #include <QtCore/QJsonArray>
 #include <QtCore/QTextStream>
 #include <QtCore/QVector>
@@ -147,45 +145,6 @@ QJsonObject bandJson(const saiskuko::Band &band)
             {QStringLiteral("technology"), band.technologyName()},
             {QStringLiteral("band"), band.name()},
             {QStringLiteral("duplex"), saiskuko::duplexName(band.duplex())}};
-}
-
-namespace {
-
-const ChBand &registered(const saiskuko::Band &band)
-{
-    return ChStd::GetChStdPointer()->Technologies[band.code() / 100].Bands[band.code() % 100];
-}
-
-bool sameRecord(const saiskuko::Record &r, const stSubBand &s)
-{
-    return int(r.link) == s.Link && r.firstChannel == s.StartChannelNo
-           && r.lastChannel == s.StopChannelNo && r.lowEdgeMHz == s.StartFreq
-           && r.highEdgeMHz == s.StopFreq;
-}
-
-} // namespace
-
-QList<saiskuko::Record> recordsInOrder(const saiskuko::Band &band)
-{
-    // A record serving both links (TDD, n78's in the global band) is in both lists.
-    QList<saiskuko::Record> records =
-        band.records(saiskuko::Link::Up) + band.records(saiskuko::Link::Down);
-    QList<saiskuko::Record> ordered;
-    const ChBand &data = registered(band);
-    for (int i = 0; i < data.NumSubBand && i < ChBand::MaxSubBands; ++i) {
-        for (int k = 0; k < records.size(); ++k) {
-            if (sameRecord(records[k], data.SubBands[i])) {
-                ordered << records.takeAt(k);
-                break;
-            }
-        }
-    }
-    return ordered;
-}
-
-int registeredRecordCount(const saiskuko::Band &band)
-{
-    return registered(band).NumSubBand;
 }
 
 namespace {

@@ -101,13 +101,6 @@ QString linkWord(saiskuko::Link link);
 QString bandTitle(const saiskuko::Band &band);
 QJsonObject bandJson(const saiskuko::Band &band);
 
-// Band facts the typed API does not give yet, read through the compatible
-// interface: every real record once, in registration order; and the number of
-// records the band was registered with, placeholders for a missing link
-// included.
-QList<saiskuko::Record> recordsInOrder(const saiskuko::Band &band);
-int registeredRecordCount(const saiskuko::Band &band);
-
 // The library's own diagnostics (its log lines) go to the error stream given
 // here, or nowhere (the default; --verbose shows them).
 class QTextStream;
