@@ -31,14 +31,14 @@ int parseChannel(const QString &text)
         return channel;
     const QString what = QLatin1String("channel ") + echoed(text);
     if (ok)
-        throw BadInput(what + QLatin1String(" must not be negative"));
+        throw BadInput{what + QLatin1String(" must not be negative")};
     bool number = false;
     const double value = text.trimmed().toDouble(&number);
     if (number && value == std::floor(value))
-        throw BadInput(what
+        throw BadInput{what
                        + (value < 0 ? QLatin1String(" must not be negative")
-                                    : QLatin1String(" is out of range")));
-    throw BadInput(what + QLatin1String(" is not a whole number"));
+                                    : QLatin1String(" is out of range"))};
+    throw BadInput{what + QLatin1String(" is not a whole number")};
 }
 
 double parseMHz(const QString &text)
@@ -47,12 +47,22 @@ double parseMHz(const QString &text)
     const double mhz = text.trimmed().toDouble(&ok);
     const QString what = QLatin1String("frequency ") + echoed(text);
     if (!ok)
-        throw BadInput(what + QLatin1String(" is not a number of MHz"));
+        throw BadInput{what + QLatin1String(" is not a number of MHz")};
     if (mhz < 0)
-        throw BadInput(what + QLatin1String(" must be positive"));
+        throw BadInput{what + QLatin1String(" must be positive")};
     if (!std::isfinite(mhz))
-        throw BadInput(what + QLatin1String(" is out of range"));
+        throw BadInput{what + QLatin1String(" is out of range")};
     return mhz;
+}
+
+// Every argument parsed, before any is looked up: bad input answers nothing.
+template <typename T>
+QList<T> parseEach(const QStringList &args, T (*parse)(const QString &))
+{
+    QList<T> values;
+    for (const QString &arg : args)
+        values << parse(arg);
+    return values;
 }
 
 Band parseBand(const QString &text)
@@ -68,6 +78,13 @@ QList<Link> linksFor(const Band &band, const CommandOptions &options)
 QString span(const QString &first, const QString &last)
 {
     return first + QLatin1Char('-') + last;
+}
+
+// A list as a JSON array, and as text joined by separator (none for an empty one).
+Cell listCell(const QStringList &list, const char *separator, const char *none = "-")
+{
+    return {QJsonArray::fromStringList(list),
+            list.isEmpty() ? QLatin1String(none) : list.join(QLatin1String(separator))};
 }
 
 // Sorted, with overlapping ranges (and, for channels, adjacent ones) merged:
@@ -90,7 +107,7 @@ Cell ranges(QList<Range> list, double adjacency, bool channels)
                      ? span(QString::number(qint64(r.first)), QString::number(qint64(r.second)))
                      : span(formatMHz(r.first), formatMHz(r.second)));
     }
-    return {json, merged.isEmpty() ? QStringLiteral("-") : text.join(QLatin1Char(','))};
+    return {json, listCell(text, ",").text};
 }
 
 // A band's rows start with its title, and its JSON with the band.
@@ -103,6 +120,12 @@ Outcome bandOutcome(const Band &band, const char *rowsKey)
     return out;
 }
 
+// The band and link of a row of search or which.
+Row bandLinkCells(const Band &band, Link link)
+{
+    return {band.code(), band.technologyName(), band.name(), linkCell(link)};
+}
+
 // ---------------------------------------------------------------- commands
 
 Outcome runTechs(const QStringList &, const CommandOptions &)
@@ -111,15 +134,10 @@ Outcome runTechs(const QStringList &, const CommandOptions &)
     out.rowsKey = QStringLiteral("technologies");
     out.columns = columns({">SLOT|slot", "TECH|name", ">BANDS|bands",
                            ">INT BW HZ|defaultIntegrationBandwidthHz", "SHORT|shortForms"});
-    for (saiskuko::Technology tech : saiskuko::technologies()) {
-        const QStringList forms = saiskuko::technologyShortForms(tech);
-        out.rows << Row{int(tech),
-                        saiskuko::technologyName(tech),
-                        saiskuko::bands(tech).size(),
+    for (saiskuko::Technology tech : saiskuko::technologies())
+        out.rows << Row{int(tech), saiskuko::technologyName(tech), saiskuko::bands(tech).size(),
                         saiskuko::defaultIntegrationBandwidthHz(tech),
-                        {QJsonArray::fromStringList(forms),
-                         forms.isEmpty() ? QStringLiteral("-") : forms.join(QLatin1Char(','))}};
-    }
+                        listCell(saiskuko::technologyShortForms(tech), ",")};
     return out;
 }
 
@@ -150,8 +168,8 @@ Outcome runBands(const QStringList &args, const CommandOptions &)
                         global ? QStringLiteral("(all bands)") : channelCell.text}
                 << Cell{QJsonValue(), global ? QStringLiteral("(all bands)") : edgeCell.text};
         }
-        row << band.recordCount() << saiskuko::duplexName(band.duplex())
-            << band.technologyName() << band.standard() << band.isGlobal();
+        row << band.recordCount() << saiskuko::duplexName(band.duplex()) << band.technologyName()
+            << band.standard() << band.isGlobal();
         out.rows << row;
     }
     return out;
@@ -167,7 +185,7 @@ Outcome runBand(const QStringList &args, const CommandOptions &)
     for (const Record &r : band.records()) {
         const saiskuko::Result<int> paired = band.pairedChannel(r.link, r.firstChannel);
         const int offset = (paired.value() - r.firstChannel) * (r.link == Link::Up ? -1 : 1);
-        out.rows << Row{{linkWord(r.link), linkShort(r.link)},
+        out.rows << Row{linkCell(r.link),
                         {QJsonArray{r.firstChannel, r.lastChannel},
                          span(QString::number(r.firstChannel), QString::number(r.lastChannel))},
                         {QJsonArray{r.lowEdgeMHz, r.highEdgeMHz},
@@ -201,16 +219,17 @@ void addPair(const Band &band, Link link, int channel, QStringList *text, QJsonA
 Outcome runFreq(const QStringList &args, const CommandOptions &options)
 {
     const Band band = parseBand(args[0]);
-    QList<int> channels;
-    for (const QString &arg : args.mid(1))
-        channels << parseChannel(arg);
+    const QList<int> channels = parseEach(args.mid(1), parseChannel);
     const QList<Link> links = linksFor(band, options);
     const bool paired = band.duplex() == Duplex::Fdd;
 
     Outcome out = bandOutcome(band, "results");
     out.columns = columns({"CHANNEL|channel"});
-    for (Link link : links)
+    QStringList words;
+    for (Link link : links) {
         out.columns << Column{linkShort(link) + QLatin1String(" MHZ"), linkWord(link)};
+        words << linkWord(link);
+    }
     if (paired)
         out.columns << columns({"PAIRED|paired"});
     bool any = false;
@@ -226,20 +245,14 @@ Outcome runFreq(const QStringList &args, const CommandOptions &options)
                 addPair(band, link, channel, &pairText, &pairs);
         }
         if (paired)
-            row << Cell{pairs, pairText.isEmpty() ? QStringLiteral("-")
-                                                  : pairText.join(QLatin1String(", "))};
+            row << Cell{pairs, listCell(pairText, ", ").text};
         out.rows << row;
     }
-    if (!any) {
-        out.status = ExitNoResult;
-        QStringList words;
-        for (Link link : links)
-            words << linkWord(link);
-        out.notes << (channels.size() == 1 ? QStringLiteral("channel %1 is not").arg(channels[0])
+    if (!any)
+        out.noResult((channels.size() == 1 ? QStringLiteral("channel %1 is not").arg(channels[0])
                                            : QStringLiteral("none of these channels is"))
-                         + QLatin1String(" in ") + band.standard() + QLatin1String(" (")
-                         + words.join(QLatin1String(" or ")) + QLatin1Char(')');
-    }
+                     + QLatin1String(" in ") + band.standard() + QLatin1String(" (")
+                     + words.join(QLatin1String(" or ")) + QLatin1Char(')'));
     return out;
 }
 
@@ -267,14 +280,12 @@ double centreNear(const Band &band, Link link, int channel, double mhz)
 Outcome runChannel(const QStringList &args, const CommandOptions &options)
 {
     const Band band = parseBand(args[0]);
-    QList<double> freqs;
-    for (const QString &arg : args.mid(1))
-        freqs << parseMHz(arg);
+    const QList<double> freqs = parseEach(args.mid(1), parseMHz);
     const QList<Link> links = linksFor(band, options);
 
     Outcome out = bandOutcome(band, "results");
     out.json.insert(QStringLiteral("preferred"),
-                    options.hasPreferred ? QJsonValue(options.preferred) : QJsonValue());
+                    options.preferred ? QJsonValue(*options.preferred) : QJsonValue());
     out.json.insert(QStringLiteral("nearest"), options.nearest);
     out.columns = columns({"MHZ|mhz"});
     for (Link link : links) {
@@ -287,10 +298,16 @@ Outcome runChannel(const QStringList &args, const CommandOptions &options)
         Row row{{freqs[i], args[i + 1].trimmed()}};
         for (Link link : links) {
             const QList<int> found = channelsAt(band, link, freqs[i], options.nearest);
-            any = any || !found.isEmpty();
+            if (found.isEmpty()) {
+                row << QJsonValue();
+                if (options.nearest)
+                    row << QJsonValue();
+                continue;
+            }
+            any = true;
             // --preferred N: N alone where it is among several (JSON lists them all).
-            const bool preferred = options.hasPreferred && found.contains(options.preferred);
-            const int channel = preferred ? options.preferred : found.value(0);
+            const bool preferred = options.preferred && found.contains(*options.preferred);
+            const int channel = preferred ? *options.preferred : found[0];
             const double centre = centreNear(band, link, channel, freqs[i]);
             const bool inside = band.withinEdges(link, centre);
             QJsonArray all;
@@ -304,12 +321,10 @@ Outcome runChannel(const QStringList &args, const CommandOptions &options)
                                     {QStringLiteral("channelMHz"), centre},
                                     {QStringLiteral("offsetMHz"), centre - freqs[i]},
                                     {QStringLiteral("insideEdges"), inside}};
-            row << (found.isEmpty() ? Cell{QJsonValue()}
-                                    : Cell{match, preferred ? QString::number(channel)
-                                                            : text.join(QLatin1Char(','))});
+            row << Cell{match, preferred ? QString::number(channel) : text.join(QLatin1Char(','))};
             if (options.nearest)
-                row << (found.isEmpty() ? QJsonValue() : QJsonValue(centre - freqs[i]));
-            if (!found.isEmpty() && !inside)
+                row << centre - freqs[i];
+            if (!inside)
                 out.notes << QStringLiteral("%1 channel %2 (%3 MHz) lies outside the stated "
                                             "edges of %4")
                                  .arg(linkShort(link))
@@ -318,16 +333,13 @@ Outcome runChannel(const QStringList &args, const CommandOptions &options)
         }
         out.rows << row;
     }
-    if (!any) {
-        out.status = ExitNoResult;
-        out.notes << (freqs.size() == 1 ? cut(args[1].trimmed()) + QLatin1String(" MHz is not")
-                                        : QStringLiteral("none of these frequencies is"))
-                         + (options.nearest ? QLatin1String(" within ")
-                                            : QLatin1String(" a channel centre of "))
-                         + band.standard()
-                         + (options.nearest ? QLatin1String("")
-                                            : QLatin1String(" (try: --nearest)"));
-    }
+    if (!any)
+        out.noResult(
+            (freqs.size() == 1 ? cut(args[1].trimmed()) + QLatin1String(" MHz is not")
+                               : QStringLiteral("none of these frequencies is"))
+            + (options.nearest ? QLatin1String(" within ") : QLatin1String(" a channel centre of "))
+            + band.standard()
+            + (options.nearest ? QLatin1String("") : QLatin1String(" (try: --nearest)")));
     return out;
 }
 
@@ -338,23 +350,39 @@ Outcome runSearch(const QStringList &args, const CommandOptions &options)
     out.rowsKey = QStringLiteral("results");
     out.columns = columns({"MHZ|mhz", ">CODE|code", "TECH|technology", "BAND|band", "DIR|direction",
                            ">CHANNEL|channel", "CHANNEL MHZ|channelMHz", "OFFSET MHZ|offsetMHz"});
-    for (const QString &arg : args) {
-        const double mhz = parseMHz(arg);
+    const QList<double> freqs = parseEach(args, parseMHz);
+    for (int i = 0; i < freqs.size(); ++i) {
         const int before = out.rows.size();
-        for (const saiskuko::SearchHit &hit : saiskuko::search(mhz)) {
+        for (const saiskuko::SearchHit &hit : saiskuko::search(freqs[i])) {
             if (options.links.isEmpty() || options.links.contains(hit.link))
-                out.rows << Row{{mhz, arg.trimmed()},
-                                hit.band.code(),
-                                hit.band.technologyName(),
-                                hit.band.name(),
-                                {linkWord(hit.link), linkShort(hit.link)},
-                                hit.channel,
-                                hit.channelMHz,
-                                hit.offsetMHz};
+                out.rows << Row{{freqs[i], args[i].trimmed()}} + bandLinkCells(hit.band, hit.link)
+                                + Row{hit.channel, hit.channelMHz, hit.offsetMHz};
         }
         if (out.rows.size() == before)
-            out.notes << QLatin1String("no band holds ") + cut(arg.trimmed())
+            out.notes << QLatin1String("no band holds ") + cut(args[i].trimmed())
                              + QLatin1String(" MHz");
+    }
+    if (out.rows.isEmpty())
+        out.status = ExitNoResult;
+    return out;
+}
+
+Outcome runWhich(const QStringList &args, const CommandOptions &options)
+{
+    Outcome out;
+    out.rowsKey = QStringLiteral("results");
+    out.columns = columns({">CHANNEL|channel", ">CODE|code", "TECH|technology", "BAND|band",
+                           "DIR|direction", "MHZ|mhz"});
+    for (int channel : parseEach(args, parseChannel)) {
+        const int before = out.rows.size();
+        for (const Band &band : saiskuko::bandsWithChannel(channel)) {
+            for (Link link : linksFor(band, options)) {
+                for (double mhz : band.frequencies(link, channel))
+                    out.rows << Row{channel} + bandLinkCells(band, link) + Row{mhz};
+            }
+        }
+        if (out.rows.size() == before)
+            out.notes << QStringLiteral("no band has a channel %1").arg(channel);
     }
     if (out.rows.isEmpty())
         out.status = ExitNoResult;
@@ -367,8 +395,8 @@ Outcome runChannels(const QStringList &args, const CommandOptions &options)
     const double low = parseMHz(args[1]);
     const double high = parseMHz(args[2]);
     if (low > high)
-        throw BadInput(QLatin1String("the window ") + cut(args[1].trimmed()) + QLatin1String(" to ")
-                       + cut(args[2].trimmed()) + QLatin1String(" MHz is empty: LOW exceeds HIGH"));
+        throw BadInput{QLatin1String("the window ") + cut(args[1].trimmed()) + QLatin1String(" to ")
+                       + cut(args[2].trimmed()) + QLatin1String(" MHz is empty: LOW exceeds HIGH")};
 
     Outcome out = bandOutcome(band, "runs");
     out.heading += QLatin1String(", ") + formatMHz(low) + QLatin1String(" to ") + formatMHz(high)
@@ -394,30 +422,25 @@ Outcome runChannels(const QStringList &args, const CommandOptions &options)
             const auto next = std::next(it);
             if (next != inside.constEnd() && next.key() == it.key() + 1)
                 continue;
-            out.rows << Row{{linkWord(link), linkShort(link)}, start.key(),   it.key(),
-                            it.key() - start.key() + 1,        start.value(), it.value()};
+            out.rows << Row{linkCell(link), start.key(), it.key(), it.key() - start.key() + 1,
+                            start.value(),  it.value()};
             start = next;
         }
     }
-    if (out.rows.isEmpty()) {
-        out.status = ExitNoResult;
-        out.notes << QLatin1String("no channel of ") + band.standard()
-                         + QLatin1String(" lies between ") + cut(args[1].trimmed())
-                         + QLatin1String(" and ") + cut(args[2].trimmed()) + QLatin1String(" MHz");
-    }
+    if (out.rows.isEmpty())
+        out.noResult(QLatin1String("no channel of ") + band.standard()
+                     + QLatin1String(" lies between ") + cut(args[1].trimmed())
+                     + QLatin1String(" and ") + cut(args[2].trimmed()) + QLatin1String(" MHz"));
     return out;
 }
 
-// The library marks a band without ranges (a global band) with a lone blank.
-QStringList rangeLines(const QString &text)
+// The library's screen ranges, one a line; it marks a band without ranges (a
+// global band) with a lone blank.
+Cell rangeLines(const QString &text)
 {
-    return text.trimmed().isEmpty() ? QStringList()
-                                    : text.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
-}
-
-Cell lines(const QStringList &list)
-{
-    return {QJsonArray::fromStringList(list), list.join(QLatin1Char('\n'))};
+    return listCell(text.trimmed().isEmpty() ? QStringList()
+                                             : text.split(QLatin1Char('\n'), Qt::SkipEmptyParts),
+                    "\n", "");
 }
 
 constexpr int kFirstMode = 1;
@@ -432,9 +455,7 @@ Outcome runModes(const CommandOptions &options)
     for (int mode = kFirstMode; mode <= kLastMode; ++mode) {
         QStringList techs = ChStd::GetBandListByMode(mode, 0, options.link).techList;
         techs.removeDuplicates();
-        out.rows << Row{mode,
-                        {QJsonArray::fromStringList(techs),
-                         techs.isEmpty() ? QStringLiteral("-") : techs.join(QLatin1String(", "))}};
+        out.rows << Row{mode, listCell(techs, ", ")};
     }
     return out;
 }
@@ -448,8 +469,8 @@ Outcome runTable(const QStringList &args, const CommandOptions &options)
     bool ok = false;
     const int mode = args[0].trimmed().toInt(&ok, 10);
     if (!ok || mode < kFirstMode || mode > kLastMode)
-        throw BadInput(QLatin1String("mode ") + echoed(args[0])
-                       + QLatin1String(" is not an instrument mode (1 to 23)"));
+        throw BadInput{QLatin1String("mode ") + echoed(args[0])
+                       + QLatin1String(" is not an instrument mode (1 to 23)")};
     const stCHList list = ChStd::GetBandListByMode(mode, 0, options.link);
 
     Outcome out;
@@ -463,43 +484,12 @@ Outcome runTable(const QStringList &args, const CommandOptions &options)
     for (int i = 0; i < count; ++i) {
         const QString &tech = list.techList[i];
         const QString &band = list.bandList[i];
-        const QString freqs =
-            ChStd::GetChStdPointer()->GetFreqRefString_List(tech, band, options.link);
-        out.rows << Row{tech, band, lines(rangeLines(list.chRangeList[i])),
-                        lines(rangeLines(freqs))};
+        out.rows << Row{
+            tech, band, rangeLines(list.chRangeList[i]),
+            rangeLines(ChStd::GetChStdPointer()->GetFreqRefString_List(tech, band, options.link))};
     }
-    if (count == 0) {
-        out.status = ExitNoResult;
-        out.notes << QStringLiteral("mode %1 has no band table").arg(mode);
-    }
-    return out;
-}
-
-Outcome runWhich(const QStringList &args, const CommandOptions &options)
-{
-    Outcome out;
-    out.rowsKey = QStringLiteral("results");
-    out.columns = columns({">CHANNEL|channel", ">CODE|code", "TECH|technology", "BAND|band",
-                           "DIR|direction", "MHZ|mhz"});
-    for (const QString &arg : args) {
-        const int channel = parseChannel(arg);
-        const int before = out.rows.size();
-        for (const Band &band : saiskuko::bandsWithChannel(channel)) {
-            for (Link link : linksFor(band, options)) {
-                for (double mhz : band.frequencies(link, channel))
-                    out.rows << Row{channel,
-                                    band.code(),
-                                    band.technologyName(),
-                                    band.name(),
-                                    {linkWord(link), linkShort(link)},
-                                    mhz};
-            }
-        }
-        if (out.rows.size() == before)
-            out.notes << QStringLiteral("no band has a channel %1").arg(channel);
-    }
-    if (out.rows.isEmpty())
-        out.status = ExitNoResult;
+    if (count == 0)
+        out.noResult(QStringLiteral("mode %1 has no band table").arg(mode));
     return out;
 }
 
@@ -509,14 +499,14 @@ Outcome runChart(const QStringList &args, const CommandOptions &options)
     request.lowMHz = parseMHz(args[0]);
     request.highMHz = parseMHz(args[1]);
     if (!(request.lowMHz < request.highMHz))
-        throw BadInput(QStringLiteral("chart: LOW must be below HIGH"));
+        throw BadInput{QStringLiteral("chart: LOW must be below HIGH")};
     for (const QString &tech : options.techs)
         request.techs << valueOrBadInput(saiskuko::findTechnology(tech));
     for (const QString &mark : options.marks) {
         request.marksMHz << parseMHz(mark);
         if (request.marksMHz.last() < request.lowMHz || request.marksMHz.last() > request.highMHz)
-            throw BadInput(QLatin1String("mark ") + echoed(mark)
-                           + QLatin1String(" lies outside the chart's window"));
+            throw BadInput{QLatin1String("mark ") + echoed(mark)
+                           + QLatin1String(" lies outside the chart's window")};
     }
 
     Outcome out;
@@ -526,9 +516,8 @@ Outcome runChart(const QStringList &args, const CommandOptions &options)
                            {QStringLiteral("bands"), layout.rows.size()},
                            {QStringLiteral("bars"), layout.barCount()}};
     if (layout.rows.isEmpty()) {
-        out.status = ExitNoResult;
-        out.notes << QStringLiteral("no band has a record between %1 and %2 MHz")
-                         .arg(formatMHz(request.lowMHz), formatMHz(request.highMHz));
+        out.noResult(QStringLiteral("no band has a record between %1 and %2 MHz")
+                         .arg(formatMHz(request.lowMHz), formatMHz(request.highMHz)));
         return out;
     }
     const QByteArray svg = chartSvg(layout);
@@ -540,7 +529,7 @@ Outcome runChart(const QStringList &args, const CommandOptions &options)
     QFile file(options.outputFile);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate) || file.write(svg) != svg.size()
         || !file.flush())
-        throw BadInput(QLatin1String("cannot write ") + echoed(options.outputFile));
+        throw BadInput{QLatin1String("cannot write ") + echoed(options.outputFile)};
     out.json.insert(QStringLiteral("file"), options.outputFile);
     return out;
 }

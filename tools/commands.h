@@ -7,13 +7,14 @@
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 
+#include <optional>
+
 // The options a command may read; the program rejects those a command does not take.
 struct CommandOptions
 {
-    QList<saiskuko::Link> links; // --ul / --dl; empty: every link the band has
-    bool hasPreferred = false;
-    int preferred = -1; // --preferred
-    int link = 0;       // --link, for table
+    QList<saiskuko::Link> links;  // --ul / --dl; empty: every link the band has
+    std::optional<int> preferred; // --preferred
+    int link = 0;                 // --link, for table
     bool nearest = false;
     QStringList techs;  // --tech, for chart: technologies to draw
     QStringList marks;  // --mark, for chart: frequencies to mark

@@ -45,24 +45,18 @@ QString unmarked(QString argument)
     return argument;
 }
 
-// Where one run writes: its streams, the prefix of its messages, whether its
-// JSON goes on one line (batch), and the options batch passes to each line.
+// Where one run writes: its streams and the prefix of its messages; in batch
+// also the options passed to each line, and JSON one document a line.
 struct Run
 {
     QTextStream &out;
     QTextStream &err;
     QString prefix;
-    bool compact;
     QStringList inherited;
-    bool batchLine;
+    bool batch;
 };
 
 int runBatch(const QString &file, const Run &run);
-
-QJsonValue orNull(const QJsonObject &object)
-{
-    return object.isEmpty() ? QJsonValue() : QJsonValue(object);
-}
 
 void writeJson(const Run &run, const QString &command, const QStringList &arguments, int status,
                const QStringList &notes, const QJsonObject &result)
@@ -72,10 +66,10 @@ void writeJson(const Run &run, const QString &command, const QStringList &argume
         {QStringLiteral("arguments"), QJsonArray::fromStringList(arguments)},
         {QStringLiteral("status"), status},
         {QStringLiteral("notes"), QJsonArray::fromStringList(notes)},
-        {QStringLiteral("result"), orNull(result)}};
+        {QStringLiteral("result"), result.isEmpty() ? QJsonValue() : QJsonValue(result)}};
     run.out << QString::fromUtf8(QJsonDocument(document).toJson(
-        run.compact ? QJsonDocument::Compact : QJsonDocument::Indented));
-    if (run.compact)
+        run.batch ? QJsonDocument::Compact : QJsonDocument::Indented));
+    if (run.batch)
         run.out << '\n';
 }
 
@@ -88,23 +82,13 @@ const Command *findCommand(const QString &name)
     return nullptr;
 }
 
-QString commandNames()
-{
-    QStringList names;
-    for (const Command &candidate : commands())
-        names << QLatin1String(candidate.name);
-    return names.join(QLatin1String(", "));
-}
-
-QString value(const QCommandLineParser &parser, const char *name)
-{
-    return unmarked(parser.value(QLatin1String(name)));
-}
-
 // The options a command reads, from a parsed command line.
 CommandOptions commandOptions(const QCommandLineParser &parser)
 {
     const auto isSet = [&](const char *name) { return parser.isSet(QLatin1String(name)); };
+    const auto value = [&](const char *name) {
+        return unmarked(parser.value(QLatin1String(name)));
+    };
     CommandOptions options;
     if (isSet("ul"))
         options.links << saiskuko::Link::Up;
@@ -114,20 +98,18 @@ CommandOptions commandOptions(const QCommandLineParser &parser)
     options.techs = parser.values(QStringLiteral("tech"));
     for (const QString &mark : parser.values(QStringLiteral("mark")))
         options.marks << unmarked(mark);
-    options.outputFile = value(parser, "output");
-    if (isSet("preferred")) {
-        bool ok = false;
-        options.hasPreferred = true;
-        options.preferred = value(parser, "preferred").trimmed().toInt(&ok, 10);
-        if (!ok)
-            throw BadInput(QLatin1String("--preferred ") + echoed(value(parser, "preferred"))
-                           + QLatin1String(" is not a channel number"));
-    }
+    options.outputFile = value("output");
+    bool ok = true;
+    if (isSet("preferred"))
+        options.preferred = value("preferred").trimmed().toInt(&ok, 10);
+    if (!ok)
+        throw BadInput{QLatin1String("--preferred ") + echoed(value("preferred"))
+                       + QLatin1String(" is not a channel number")};
     if (isSet("link")) {
-        const QString link = value(parser, "link").trimmed();
+        const QString link = value("link").trimmed();
         if (link != QLatin1String("0") && link != QLatin1String("1"))
-            throw BadInput(QLatin1String("--link ") + echoed(value(parser, "link"))
-                           + QLatin1String(" must be 0 (downlink) or 1 (uplink)"));
+            throw BadInput{QLatin1String("--link ") + echoed(value("link"))
+                           + QLatin1String(" must be 0 (downlink) or 1 (uplink)")};
         options.link = link.toInt();
     }
     return options;
@@ -202,21 +184,25 @@ int runWords(const QStringList &words, const Run &run)
     }
     if (positional.isEmpty())
         return fail(QStringLiteral("no command given (see: saiskuko --help)"));
-    if (!command)
+    if (!command) {
+        QStringList names;
+        for (const Command &candidate : commands())
+            names << QLatin1String(candidate.name);
         return fail(QLatin1String("unknown command ") + echoed(name) + QLatin1String("; commands: ")
-                    + commandNames());
+                    + names.join(QLatin1String(", ")));
+    }
     const QString misuse = misuseOf(*command, arguments, parser);
     if (!misuse.isEmpty())
         return fail(misuse);
     if (!command->run) {
-        if (run.batchLine)
+        if (run.batch)
             return fail(QStringLiteral("batch does not run within batch"));
         QStringList passed;
         for (const char *common : {"json", "verbose"}) {
             if (isSet(common))
                 passed << QLatin1String("--") + QLatin1String(common);
         }
-        return runBatch(arguments.value(0), {run.out, run.err, run.prefix, true, passed, true});
+        return runBatch(arguments.value(0), {run.out, run.err, run.prefix, passed, true});
     }
 
     try {
@@ -230,7 +216,7 @@ int runWords(const QStringList &words, const Run &run)
             run.err << run.prefix << note << '\n';
         return outcome.status;
     } catch (const BadInput &error) {
-        return fail(error.message());
+        return fail(error.message);
     }
 }
 
@@ -276,10 +262,8 @@ int runBatch(const QString &file, const Run &run)
         const QStringList words = splitLine(line);
         if (words.isEmpty() || words.first().startsWith(QLatin1Char('#')))
             continue;
-        const Run lineRun{
-            run.out, run.err,       run.prefix + QStringLiteral("line %1: ").arg(number),
-            true,    run.inherited, true};
-        worst = std::max(worst, runWords(words, lineRun));
+        const QString prefix = run.prefix + QStringLiteral("line %1: ").arg(number);
+        worst = std::max(worst, runWords(words, {run.out, run.err, prefix, run.inherited, true}));
         run.out.flush();
     }
     return worst;
@@ -289,8 +273,7 @@ int runBatch(const QString &file, const Run &run)
 
 int runProgram(const QStringList &arguments, QTextStream &out, QTextStream &err)
 {
-    int status =
-        runWords(arguments.mid(1), {out, err, QStringLiteral("saiskuko: "), false, {}, false});
+    int status = runWords(arguments.mid(1), {out, err, QStringLiteral("saiskuko: "), {}, false});
     setLibraryDiagnostics(nullptr);
     out.flush();
     err.flush();

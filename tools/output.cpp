@@ -101,6 +101,12 @@ QJsonObject Outcome::result() const
     return result;
 }
 
+void Outcome::noResult(const QString &note)
+{
+    status = ExitNoResult;
+    notes << note;
+}
+
 QString formatMHz(double mhz)
 {
     QString s = QString::number(mhz, 'f', 6);
@@ -132,6 +138,11 @@ QString linkShort(saiskuko::Link link)
 QString linkWord(saiskuko::Link link)
 {
     return link == saiskuko::Link::Up ? QStringLiteral("uplink") : QStringLiteral("downlink");
+}
+
+Cell linkCell(saiskuko::Link link)
+{
+    return {linkWord(link), linkShort(link)};
 }
 
 QString bandTitle(const saiskuko::Band &band)

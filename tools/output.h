@@ -10,23 +10,15 @@
 #include <QtCore/QStringList>
 
 #include <initializer_list>
-#include <stdexcept>
 #include <utility>
 
 // Exit statuses of the program.
 enum ExitStatus { ExitOk = 0, ExitNoResult = 1, ExitBadInput = 2, ExitWriteFailed = 3 };
 
-// Bad input: reported as one line on stderr, exit status 2.
-class BadInput : public std::runtime_error
+// Bad input, thrown: reported as one line on stderr, exit status 2.
+struct BadInput
 {
-public:
-    explicit BadInput(const QString &message)
-        : std::runtime_error(message.toStdString()), m_message(message)
-    {}
-    QString message() const { return m_message; }
-
-private:
-    QString m_message;
+    QString message;
 };
 
 // The value of a typed API result, or BadInput with its message.
@@ -34,7 +26,7 @@ template <typename T>
 T valueOrBadInput(const saiskuko::Result<T> &result)
 {
     if (!result.ok())
-        throw BadInput(result.error().message);
+        throw BadInput{result.error().message};
     return result.value();
 }
 
@@ -80,6 +72,8 @@ struct Outcome
 
     QString text() const;
     QJsonObject result() const;
+    // A valid query without an answer: exit status 1, and why.
+    void noResult(const QString &note);
 };
 
 // MHz for people: rounded to 1 Hz, trailing zeros dropped. Every raster of
@@ -92,9 +86,10 @@ QString formatMHz(double mhz);
 QString cut(const QString &text);
 QString echoed(const QString &text);
 
-// "UL"/"DL" for text, "uplink"/"downlink" for JSON.
+// "UL"/"DL" for text, "uplink"/"downlink" for JSON; the cell with both.
 QString linkShort(saiskuko::Link link);
 QString linkWord(saiskuko::Link link);
+Cell linkCell(saiskuko::Link link);
 
 // "LTE-FDD - Band 1 (2100) [201]", and the band's JSON: code, technology,
 // band, duplex.
