@@ -17,6 +17,9 @@ constexpr double kPlotWidth = 960;
 constexpr double kBarHeight = 10;
 constexpr double kLegendSwatch = 14;
 
+// By BarKind: the direction a bar's title names.
+constexpr const char *kDirections[] = {"uplink", "downlink", "uplink and downlink (time-division)"};
+
 using saiskuko::Band;
 using saiskuko::Record;
 
@@ -28,24 +31,11 @@ BarKind barKindOf(const Band &band, const Record &record)
     return record.link == saiskuko::Link::Up ? BarKind::Uplink : BarKind::Downlink;
 }
 
-QString directionText(BarKind kind)
-{
-    switch (kind) {
-    case BarKind::Uplink:
-        return QStringLiteral("uplink");
-    case BarKind::Downlink:
-        return QStringLiteral("downlink");
-    case BarKind::TimeDivision:
-        break;
-    }
-    return QStringLiteral("uplink and downlink (time-division)");
-}
-
 QString barTitle(const Band &band, BarKind kind, const Record &record)
 {
     return band.technologyName() + QLatin1Char('\n') + band.name()
-           + QStringLiteral(" [%1]").arg(band.code()) + QLatin1Char('\n') + directionText(kind)
-           + QLatin1Char('\n')
+           + QStringLiteral(" [%1]").arg(band.code()) + QLatin1Char('\n')
+           + QLatin1String(kDirections[int(kind)]) + QLatin1Char('\n')
            + QStringLiteral("channels %1-%2").arg(record.firstChannel).arg(record.lastChannel)
            + QLatin1Char('\n') + formatMHz(record.lowEdgeMHz) + QLatin1Char('-')
            + formatMHz(record.highEdgeMHz) + QStringLiteral(" MHz");
@@ -55,12 +45,9 @@ QString barTitle(const Band &band, BarKind kind, const Record &record)
 // zero width counts where it lies inside).
 bool overlapsWindow(const Record &record, double low, double high)
 {
-    const double a = record.lowEdgeMHz, b = record.highEdgeMHz;
-    if (!std::isfinite(a) || !std::isfinite(b))
-        return false;
-    const double from = std::max(std::min(a, b), low);
-    const double to = std::min(std::max(a, b), high);
-    return from < to || (a == b && from == to);
+    const double from = std::max(record.lowEdgeMHz, low);
+    const double to = std::min(record.highEdgeMHz, high);
+    return from < to || (record.lowEdgeMHz == record.highEdgeMHz && from == to);
 }
 
 QList<ChartBar> barsOf(const Band &band, double low, double high)
@@ -187,7 +174,6 @@ ChartLayout layoutChart(const ChartRequest &request)
     for (saiskuko::Technology tech : saiskuko::technologies()) {
         if (!request.techs.isEmpty() && !request.techs.contains(tech))
             continue;
-        bool grouped = false;
         for (const Band &band : saiskuko::bands(tech)) {
             ChartRow row;
             row.band = band;
@@ -195,11 +181,10 @@ ChartLayout layoutChart(const ChartRequest &request)
                 band.isGlobal() ? QList<ChartBar>() : barsOf(band, request.lowMHz, request.highMHz);
             if (row.bars.isEmpty())
                 continue;
-            if (!grouped) {
+            if (layout.groups.isEmpty() || layout.groups.last().tech != tech) {
                 layout.groups.append({tech, saiskuko::technologyName(tech), {}});
                 labelWidth =
                     std::max(labelWidth, chartTextWidth(layout.groups.last().label, kFontSize));
-                grouped = true;
             }
             row.label = band.name() + QStringLiteral(" [%1]").arg(band.code());
             labelWidth = std::max(labelWidth, chartTextWidth(row.label, kFontSize));
@@ -214,15 +199,10 @@ ChartLayout layoutChart(const ChartRequest &request)
     layout.width = layout.plot.right() + kMargin + kGap;
 
     // Marks and their labels above the axis.
-    for (double mhz : request.marksMHz) {
-        ChartMark mark;
-        mark.mhz = mhz;
-        mark.x = layout.xOf(mhz);
-        mark.lines = markLines(mhz, request.techs);
-        layout.marks.append(mark);
-    }
-    std::sort(layout.marks.begin(), layout.marks.end(),
-              [](const ChartMark &a, const ChartMark &b) { return a.mhz < b.mhz; });
+    QList<double> marks = request.marksMHz;
+    std::sort(marks.begin(), marks.end());
+    for (double mhz : marks)
+        layout.marks.append({mhz, layout.xOf(mhz), markLines(mhz, request.techs), {}});
     placeMarkLabels(&layout.marks, kMargin, layout.width);
     double y = kMargin;
     for (const ChartMark &mark : layout.marks)
@@ -232,13 +212,10 @@ ChartLayout layoutChart(const ChartRequest &request)
     const QList<double> values = chartTicks(request.lowMHz, request.highMHz);
     const double step = values.size() > 1 ? values[1] - values[0] : 1;
     for (double v : values) {
-        ChartTick tick;
-        tick.mhz = v;
-        tick.x = layout.xOf(v);
-        tick.label = tickLabel(v, step);
-        const double w = chartTextWidth(tick.label, kFontSize);
-        tick.labelBox = ChartBox{tick.x - w / 2, y, w, kLineHeight};
-        layout.ticks.append(tick);
+        const double x = layout.xOf(v);
+        const QString label = tickLabel(v, step);
+        const double w = chartTextWidth(label, kFontSize);
+        layout.ticks.append({x, label, ChartBox{x - w / 2, y, w, kLineHeight}});
     }
     y += kLineHeight + kGap;
     layout.plot.y = y;
@@ -252,10 +229,8 @@ ChartLayout layoutChart(const ChartRequest &request)
         }
         row.labelBox = ChartBox{kMargin, y, chartTextWidth(row.label, kFontSize), kLineHeight};
         for (ChartBar &bar : row.bars) {
-            const double from =
-                layout.xOf(std::max(std::min(bar.lowMHz, bar.highMHz), layout.lowMHz));
-            const double to =
-                layout.xOf(std::min(std::max(bar.lowMHz, bar.highMHz), layout.highMHz));
+            const double from = layout.xOf(std::max(bar.lowMHz, layout.lowMHz));
+            const double to = layout.xOf(std::min(bar.highMHz, layout.highMHz));
             // A record narrower than a pixel still shows.
             bar.box = ChartBox{from, y + (kLineHeight - kBarHeight) / 2, std::max(to - from, 1.0),
                                kBarHeight};

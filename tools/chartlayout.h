@@ -10,6 +10,7 @@
 // What the chart command draws, computed apart from the SVG that shows it so
 // that the picture's content is tested as data. Positions are in SVG pixels.
 
+// In the order of the tables the chart keeps for each kind.
 enum class BarKind { Uplink, Downlink, TimeDivision };
 
 struct ChartRequest
@@ -59,7 +60,6 @@ struct ChartGroup
 
 struct ChartTick
 {
-    double mhz = 0;
     double x = 0;
     QString label;
     ChartBox labelBox;

@@ -5,20 +5,14 @@
 
 #include <QtCore/QXmlStreamWriter>
 
+#include <initializer_list>
+#include <utility>
+
 namespace {
 
-struct KindStyle
-{
-    BarKind kind;
-    const char *cssClass;
-    const char *legend;
-};
-
-constexpr KindStyle kKinds[] = {
-    {BarKind::Uplink, "ul", "uplink"},
-    {BarKind::Downlink, "dl", "downlink"},
-    {BarKind::TimeDivision, "tdd", "time-division"},
-};
+// By BarKind: the bar's style class and its legend.
+constexpr const char *kKindClasses[] = {"ul", "dl", "tdd"};
+constexpr const char *kKindLegends[] = {"uplink", "downlink", "time-division"};
 
 constexpr char kStyle[] = "text{font-family:monospace;font-size:11px;fill:#222}"
                           ".group{font-weight:bold}"
@@ -28,30 +22,29 @@ constexpr char kStyle[] = "text{font-family:monospace;font-size:11px;fill:#222}"
                           ".mark{stroke:#c0392b;stroke-width:1.5}"
                           ".marktext{fill:#c0392b}";
 
-const char *cssClassOf(BarKind kind)
-{
-    for (const KindStyle &k : kKinds) {
-        if (k.kind == kind)
-            return k.cssClass;
-    }
-    return "";
-}
-
 QString number(double v)
 {
     return QString::number(v, 'f', 1);
+}
+
+// Attributes in order; a null value leaves its attribute out.
+void writeAttributes(QXmlStreamWriter &w,
+                     std::initializer_list<std::pair<const char *, QString>> attributes)
+{
+    for (const auto &attribute : attributes) {
+        if (!attribute.second.isNull())
+            w.writeAttribute(QLatin1String(attribute.first), attribute.second);
+    }
 }
 
 void writeText(QXmlStreamWriter &w, double x, double baseline, const QString &text,
                const char *cssClass = nullptr, const char *anchor = nullptr)
 {
     w.writeStartElement(QStringLiteral("text"));
-    w.writeAttribute(QStringLiteral("x"), number(x));
-    w.writeAttribute(QStringLiteral("y"), number(baseline));
-    if (cssClass)
-        w.writeAttribute(QStringLiteral("class"), QLatin1String(cssClass));
-    if (anchor)
-        w.writeAttribute(QStringLiteral("text-anchor"), QLatin1String(anchor));
+    writeAttributes(w, {{"x", number(x)},
+                        {"y", number(baseline)},
+                        {"class", QLatin1String(cssClass)},
+                        {"text-anchor", QLatin1String(anchor)}});
     w.writeCharacters(text);
     w.writeEndElement();
 }
@@ -66,20 +59,20 @@ void writeLine(QXmlStreamWriter &w, double x1, double y1, double x2, double y2,
                const char *cssClass)
 {
     w.writeEmptyElement(QStringLiteral("line"));
-    w.writeAttribute(QStringLiteral("x1"), number(x1));
-    w.writeAttribute(QStringLiteral("y1"), number(y1));
-    w.writeAttribute(QStringLiteral("x2"), number(x2));
-    w.writeAttribute(QStringLiteral("y2"), number(y2));
-    w.writeAttribute(QStringLiteral("class"), QLatin1String(cssClass));
+    writeAttributes(w, {{"x1", number(x1)},
+                        {"y1", number(y1)},
+                        {"x2", number(x2)},
+                        {"y2", number(y2)},
+                        {"class", QLatin1String(cssClass)}});
 }
 
 void writeRect(QXmlStreamWriter &w, const ChartBox &box, const char *cssClass)
 {
-    w.writeAttribute(QStringLiteral("x"), number(box.x));
-    w.writeAttribute(QStringLiteral("y"), number(box.y));
-    w.writeAttribute(QStringLiteral("width"), number(box.width));
-    w.writeAttribute(QStringLiteral("height"), number(box.height));
-    w.writeAttribute(QStringLiteral("class"), QLatin1String(cssClass));
+    writeAttributes(w, {{"x", number(box.x)},
+                        {"y", number(box.y)},
+                        {"width", number(box.width)},
+                        {"height", number(box.height)},
+                        {"class", QLatin1String(cssClass)}});
 }
 
 void writeAxis(QXmlStreamWriter &w, const ChartLayout &layout)
@@ -101,7 +94,7 @@ void writeRows(QXmlStreamWriter &w, const ChartLayout &layout)
         writeText(w, row.labelBox.x, baselineOf(layout, row.labelBox), row.label);
         for (const ChartBar &bar : row.bars) {
             w.writeStartElement(QStringLiteral("rect"));
-            writeRect(w, bar.box, cssClassOf(bar.kind));
+            writeRect(w, bar.box, kKindClasses[int(bar.kind)]);
             w.writeTextElement(QStringLiteral("title"), bar.title);
             w.writeEndElement();
         }
@@ -121,11 +114,11 @@ void writeMarks(QXmlStreamWriter &w, const ChartLayout &layout)
 void writeLegend(QXmlStreamWriter &w, const ChartLayout &layout)
 {
     double x = layout.legend.x;
-    for (const KindStyle &k : kKinds) {
+    for (int kind = 0; kind < 3; ++kind) {
         w.writeEmptyElement(QStringLiteral("rect"));
         writeRect(w, ChartBox{x, layout.legend.y, layout.legend.height, layout.legend.height},
-                  k.cssClass);
-        const QString text = QLatin1String(k.legend);
+                  kKindClasses[kind]);
+        const QString text = QLatin1String(kKindLegends[kind]);
         writeText(w, x + layout.legend.height + 4, baselineOf(layout, layout.legend), text);
         x += layout.legend.height + 4 + chartTextWidth(text, layout.fontSize) + 16;
     }
@@ -144,15 +137,16 @@ QByteArray chartSvg(const ChartLayout &layout)
     w.writeStartDocument();
     w.writeStartElement(QStringLiteral("svg"));
     w.writeDefaultNamespace(QStringLiteral("http://www.w3.org/2000/svg"));
-    w.writeAttribute(QStringLiteral("width"), number(layout.width));
-    w.writeAttribute(QStringLiteral("height"), number(layout.height));
-    w.writeAttribute(QStringLiteral("viewBox"),
-                     QStringLiteral("0 0 %1 %2").arg(number(layout.width), number(layout.height)));
+    writeAttributes(
+        w, {{"width", number(layout.width)},
+            {"height", number(layout.height)},
+            {"viewBox",
+             QStringLiteral("0 0 %1 %2").arg(number(layout.width), number(layout.height))}});
     w.writeTextElement(QStringLiteral("style"), QLatin1String(kStyle));
     w.writeEmptyElement(QStringLiteral("rect"));
-    w.writeAttribute(QStringLiteral("width"), QStringLiteral("100%"));
-    w.writeAttribute(QStringLiteral("height"), QStringLiteral("100%"));
-    w.writeAttribute(QStringLiteral("fill"), QStringLiteral("#fff"));
+    writeAttributes(w, {{"width", QStringLiteral("100%")},
+                        {"height", QStringLiteral("100%")},
+                        {"fill", QStringLiteral("#fff")}});
     writeAxis(w, layout);
     writeRows(w, layout);
     writeMarks(w, layout);
