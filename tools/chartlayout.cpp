@@ -8,9 +8,8 @@
 
 namespace {
 
-constexpr double kFontSize = 11;
-constexpr double kCharWidth = 0.6; // of the font size, for a monospace font
-constexpr double kLineHeight = 15; // one text line, one band row
+constexpr double kCharWidth = 0.6;               // of the font size, for a monospace font
+constexpr double kLineHeight = kChartLineHeight; // one text line, one band row
 constexpr double kMargin = 12;
 constexpr double kGap = 6; // between a label and what it labels
 constexpr double kPlotWidth = 960;
@@ -22,14 +21,6 @@ constexpr const char *kDirections[] = {"uplink", "downlink", "uplink and downlin
 
 using saiskuko::Band;
 using saiskuko::Record;
-
-// A TDD band's links share one frequency range: one kind of bar for both.
-BarKind barKindOf(const Band &band, const Record &record)
-{
-    if (band.duplex() == saiskuko::Duplex::Tdd)
-        return BarKind::TimeDivision;
-    return record.link == saiskuko::Link::Up ? BarKind::Uplink : BarKind::Downlink;
-}
 
 QString barTitle(const Band &band, BarKind kind, const Record &record)
 {
@@ -56,7 +47,10 @@ QList<ChartBar> barsOf(const Band &band, double low, double high)
     for (const Record &r : band.records()) {
         if (!overlapsWindow(r, low, high))
             continue;
-        const BarKind kind = barKindOf(band, r);
+        // A TDD band's links share one frequency range: one kind of bar for both.
+        const BarKind kind = band.duplex() == saiskuko::Duplex::Tdd ? BarKind::TimeDivision
+                             : r.link == saiskuko::Link::Up         ? BarKind::Uplink
+                                                                    : BarKind::Downlink;
         // Both links of a time-division band name the same channels: one bar.
         const bool drawn = std::any_of(bars.begin(), bars.end(), [&](const ChartBar &b) {
             return b.kind == kind && b.lowMHz == r.lowEdgeMHz && b.highMHz == r.highEdgeMHz;
@@ -87,12 +81,10 @@ QStringList markLines(double mhz, const QList<saiskuko::Technology> &techs)
     return lines;
 }
 
-double widestText(const QStringList &lines)
+// A line of text at x, y.
+ChartBox textBox(double x, double y, const QString &text)
 {
-    double widest = 0;
-    for (const QString &line : lines)
-        widest = std::max(widest, chartTextWidth(line, kFontSize));
-    return widest;
+    return {x, y, chartTextWidth(text), kLineHeight};
 }
 
 // Mark labels sit above the plot, beside their line; a label that would run
@@ -102,7 +94,8 @@ void placeMarkLabels(QList<ChartMark> *marks, double top, double width)
     QList<ChartBox> placed;
     for (ChartMark &mark : *marks) {
         ChartBox box;
-        box.width = widestText(mark.lines);
+        for (const QString &line : mark.lines)
+            box.width = std::max(box.width, chartTextWidth(line));
         box.height = kLineHeight * mark.lines.size();
         box.x = mark.x + kGap;
         if (box.right() > width - kMargin)
@@ -124,9 +117,9 @@ void placeMarkLabels(QList<ChartMark> *marks, double top, double width)
 
 } // namespace
 
-double chartTextWidth(const QString &text, double fontSize)
+double chartTextWidth(const QString &text)
 {
-    return text.size() * fontSize * kCharWidth;
+    return text.size() * kChartFontSize * kCharWidth;
 }
 
 double ChartLayout::xOf(double mhz) const
@@ -166,8 +159,6 @@ ChartLayout layoutChart(const ChartRequest &request)
     ChartLayout layout;
     layout.lowMHz = request.lowMHz;
     layout.highMHz = request.highMHz;
-    layout.fontSize = kFontSize;
-    layout.lineHeight = kLineHeight;
 
     // Rows first: the label column is as wide as the widest label.
     double labelWidth = 0;
@@ -183,11 +174,10 @@ ChartLayout layoutChart(const ChartRequest &request)
                 continue;
             if (layout.groups.isEmpty() || layout.groups.last().tech != tech) {
                 layout.groups.append({tech, saiskuko::technologyName(tech), {}});
-                labelWidth =
-                    std::max(labelWidth, chartTextWidth(layout.groups.last().label, kFontSize));
+                labelWidth = std::max(labelWidth, chartTextWidth(layout.groups.last().label));
             }
             row.label = band.name() + QStringLiteral(" [%1]").arg(band.code());
-            labelWidth = std::max(labelWidth, chartTextWidth(row.label, kFontSize));
+            labelWidth = std::max(labelWidth, chartTextWidth(row.label));
             layout.rows.append(row);
         }
     }
@@ -214,8 +204,7 @@ ChartLayout layoutChart(const ChartRequest &request)
     for (double v : values) {
         const double x = layout.xOf(v);
         const QString label = tickLabel(v, step);
-        const double w = chartTextWidth(label, kFontSize);
-        layout.ticks.append({x, label, ChartBox{x - w / 2, y, w, kLineHeight}});
+        layout.ticks.append({x, label, textBox(x - chartTextWidth(label) / 2, y, label)});
     }
     y += kLineHeight + kGap;
     layout.plot.y = y;
@@ -224,10 +213,10 @@ ChartLayout layoutChart(const ChartRequest &request)
     for (ChartRow &row : layout.rows) {
         if (group < layout.groups.size() && layout.groups[group].tech == row.band.technology()) {
             ChartGroup &g = layout.groups[group++];
-            g.labelBox = ChartBox{kMargin, y, chartTextWidth(g.label, kFontSize), kLineHeight};
+            g.labelBox = textBox(kMargin, y, g.label);
             y += kLineHeight;
         }
-        row.labelBox = ChartBox{kMargin, y, chartTextWidth(row.label, kFontSize), kLineHeight};
+        row.labelBox = ChartBox{kMargin, y, chartTextWidth(row.label), kLineHeight};
         for (ChartBar &bar : row.bars) {
             const double from = layout.xOf(std::max(bar.lowMHz, layout.lowMHz));
             const double to = layout.xOf(std::min(bar.highMHz, layout.highMHz));

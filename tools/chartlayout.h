@@ -77,7 +77,6 @@ struct ChartLayout
 {
     double lowMHz = 0, highMHz = 0;
     double width = 0, height = 0;
-    double fontSize = 0, lineHeight = 0;
     ChartBox plot; // where the bars are; ticks and marks span it
     QList<ChartTick> ticks;
     QList<ChartGroup> groups;
@@ -98,7 +97,11 @@ QList<double> chartTicks(double lowMHz, double highMHz);
 // checks the window (finite, low below high).
 ChartLayout layoutChart(const ChartRequest &request);
 
-// The width a text takes in the chart's monospace font.
-double chartTextWidth(const QString &text, double fontSize);
+// The chart's monospace font: its size, and the height of a line of it.
+constexpr double kChartFontSize = 11;
+constexpr double kChartLineHeight = 15;
+
+// The width a text takes in the chart's font.
+double chartTextWidth(const QString &text);
 
 #endif

@@ -50,9 +50,9 @@ void writeText(QXmlStreamWriter &w, double x, double baseline, const QString &te
 }
 
 // Text sits on the baseline of its box, a little above the box's bottom.
-double baselineOf(const ChartLayout &layout, const ChartBox &box, int line = 0)
+double baselineOf(const ChartBox &box, int line = 0)
 {
-    return box.y + layout.lineHeight * (line + 1) - (layout.lineHeight - layout.fontSize) / 2 - 1;
+    return box.y + kChartLineHeight * (line + 1) - (kChartLineHeight - kChartFontSize) / 2 - 1;
 }
 
 void writeLine(QXmlStreamWriter &w, double x1, double y1, double x2, double y2,
@@ -79,7 +79,7 @@ void writeAxis(QXmlStreamWriter &w, const ChartLayout &layout)
 {
     for (const ChartTick &tick : layout.ticks) {
         writeLine(w, tick.x, layout.plot.y, tick.x, layout.plot.bottom(), "grid");
-        writeText(w, tick.x, baselineOf(layout, tick.labelBox), tick.label, nullptr, "middle");
+        writeText(w, tick.x, baselineOf(tick.labelBox), tick.label, nullptr, "middle");
     }
     writeLine(w, layout.plot.x, layout.plot.y, layout.plot.right(), layout.plot.y, "axis");
     writeLine(w, layout.plot.x, layout.plot.bottom(), layout.plot.right(), layout.plot.bottom(),
@@ -89,9 +89,9 @@ void writeAxis(QXmlStreamWriter &w, const ChartLayout &layout)
 void writeRows(QXmlStreamWriter &w, const ChartLayout &layout)
 {
     for (const ChartGroup &group : layout.groups)
-        writeText(w, group.labelBox.x, baselineOf(layout, group.labelBox), group.label, "group");
+        writeText(w, group.labelBox.x, baselineOf(group.labelBox), group.label, "group");
     for (const ChartRow &row : layout.rows) {
-        writeText(w, row.labelBox.x, baselineOf(layout, row.labelBox), row.label);
+        writeText(w, row.labelBox.x, baselineOf(row.labelBox), row.label);
         for (const ChartBar &bar : row.bars) {
             w.writeStartElement(QStringLiteral("rect"));
             writeRect(w, bar.box, kKindClasses[int(bar.kind)]);
@@ -106,8 +106,7 @@ void writeMarks(QXmlStreamWriter &w, const ChartLayout &layout)
     for (const ChartMark &mark : layout.marks) {
         writeLine(w, mark.x, mark.labelBox.y, mark.x, layout.plot.bottom(), "mark");
         for (int i = 0; i < mark.lines.size(); ++i)
-            writeText(w, mark.labelBox.x, baselineOf(layout, mark.labelBox, i), mark.lines[i],
-                      "marktext");
+            writeText(w, mark.labelBox.x, baselineOf(mark.labelBox, i), mark.lines[i], "marktext");
     }
 }
 
@@ -119,11 +118,11 @@ void writeLegend(QXmlStreamWriter &w, const ChartLayout &layout)
         writeRect(w, ChartBox{x, layout.legend.y, layout.legend.height, layout.legend.height},
                   kKindClasses[kind]);
         const QString text = QLatin1String(kKindLegends[kind]);
-        writeText(w, x + layout.legend.height + 4, baselineOf(layout, layout.legend), text);
-        x += layout.legend.height + 4 + chartTextWidth(text, layout.fontSize) + 16;
+        writeText(w, x + layout.legend.height + 4, baselineOf(layout.legend), text);
+        x += layout.legend.height + 4 + chartTextWidth(text) + 16;
     }
-    writeText(w, layout.plot.right(), baselineOf(layout, layout.legend), QStringLiteral("MHz"),
-              nullptr, "end");
+    writeText(w, layout.plot.right(), baselineOf(layout.legend), QStringLiteral("MHz"), nullptr,
+              "end");
 }
 
 } // namespace

@@ -24,21 +24,20 @@ QString cellText(const Cell &cell)
 // JSON only.
 QString table(const QList<Column> &columns, const QList<Row> &rows)
 {
-    QList<QList<QStringList>> cells; // every row's cells as lines, the header first
-    cells << QList<QStringList>();
-    for (const Column &column : columns)
-        cells[0] << QStringList{column.header};
     QVector<int> widths(columns.size());
+    QList<QList<QStringList>> cells; // every row's cells as lines, the header first
+    const auto add = [&](int c, const QString &text) {
+        if (c == 0)
+            cells << QList<QStringList>();
+        cells.last() << text.split(QLatin1Char('\n'));
+        for (const QString &line : cells.last().last())
+            widths[c] = std::max(widths[c], int(line.size()));
+    };
+    for (int c = 0; c < columns.size(); ++c)
+        add(c, columns[c].header);
     for (const Row &row : rows) {
-        cells << QList<QStringList>();
-        for (const Cell &cell : row)
-            cells.last() << cellText(cell).split(QLatin1Char('\n'));
-    }
-    for (const QList<QStringList> &row : cells) {
-        for (int c = 0; c < columns.size(); ++c) {
-            for (const QString &line : row[c])
-                widths[c] = std::max(widths[c], int(line.size()));
-        }
+        for (int c = 0; c < columns.size(); ++c)
+            add(c, cellText(row[c]));
     }
     QString out;
     for (const QList<QStringList> &row : cells) {

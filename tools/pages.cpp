@@ -111,20 +111,6 @@ QString manText()
     return text;
 }
 
-namespace {
-
-// Short names that complete to every band.
-QStringList bandShortNames()
-{
-    QStringList names;
-    for (const saiskuko::Band &band : saiskuko::allBands())
-        names << band.shortName();
-    names.removeAll(QString());
-    return names;
-}
-
-} // namespace
-
 QString completionText()
 {
     QStringList commandNames, optionNames, techs;
@@ -140,6 +126,10 @@ QString completionText()
         techs << saiskuko::technologyName(tech).replace(QLatin1Char(' '), QLatin1String("\\\\ "))
               << saiskuko::technologyShortForms(tech);
     techs.removeDuplicates();
+    QStringList bands; // the short names: those that complete to a band
+    for (const saiskuko::Band &band : saiskuko::allBands())
+        bands << band.shortName();
+    bands.removeAll(QString());
     QString text = QStringLiteral(
         "# bash completion for saiskuko\n"
         "_saiskuko()\n{\n"
@@ -169,5 +159,5 @@ QString completionText()
         "}\n"
         "complete -F _saiskuko saiskuko\n");
     return text.arg(commandNames.join(QLatin1Char(' ')), optionNames.join(QLatin1Char(' ')),
-                    techs.join(QLatin1Char(' ')), bandShortNames().join(QLatin1Char(' ')));
+                    techs.join(QLatin1Char(' ')), bands.join(QLatin1Char(' ')));
 }
