@@ -75,9 +75,10 @@ QList<Link> linksFor(const Band &band, const CommandOptions &options)
     return options.links.isEmpty() ? band.links() : options.links;
 }
 
-QString span(const QString &first, const QString &last)
+// A range as a JSON pair, and as text ("1-799").
+Cell rangeCell(double first, double last)
 {
-    return first + QLatin1Char('-') + last;
+    return {QJsonArray{first, last}, formatMHz(first) + QLatin1Char('-') + formatMHz(last)};
 }
 
 // A list as a JSON array, and as text joined by separator (none for an empty one).
@@ -89,7 +90,7 @@ Cell listCell(const QStringList &list, const char *separator, const char *none =
 
 // Sorted, with overlapping ranges (and, for channels, adjacent ones) merged:
 // as JSON pairs, and as text ("1-799,991-1023", "-" for none).
-Cell ranges(QList<Range> list, double adjacency, bool channels)
+Cell ranges(QList<Range> list, double adjacency)
 {
     std::sort(list.begin(), list.end());
     QList<Range> merged;
@@ -102,10 +103,9 @@ Cell ranges(QList<Range> list, double adjacency, bool channels)
     QJsonArray json;
     QStringList text;
     for (const Range &r : merged) {
-        json.append(QJsonArray{r.first, r.second});
-        text << (channels
-                     ? span(QString::number(qint64(r.first)), QString::number(qint64(r.second)))
-                     : span(formatMHz(r.first), formatMHz(r.second)));
+        const Cell cell = rangeCell(r.first, r.second);
+        json.append(cell.json);
+        text << cell.text;
     }
     return {json, listCell(text, ",").text};
 }
@@ -158,7 +158,7 @@ Outcome runBands(const QStringList &args, const CommandOptions &)
                 channels.append({r.firstChannel, r.lastChannel});
                 edges.append({r.lowEdgeMHz, r.highEdgeMHz});
             }
-            const Cell channelCell = ranges(channels, 1, true), edgeCell = ranges(edges, 0, false);
+            const Cell channelCell = ranges(channels, 1), edgeCell = ranges(edges, 0);
             const QJsonObject json{{QStringLiteral("channels"), channelCell.json},
                                    {QStringLiteral("mhz"), edgeCell.json}};
             // A global band repeats every band; its dozens of ranges would
@@ -186,10 +186,8 @@ Outcome runBand(const QStringList &args, const CommandOptions &)
         const saiskuko::Result<int> paired = band.pairedChannel(r.link, r.firstChannel);
         const int offset = (paired.value() - r.firstChannel) * (r.link == Link::Up ? -1 : 1);
         out.rows << Row{linkCell(r.link),
-                        {QJsonArray{r.firstChannel, r.lastChannel},
-                         span(QString::number(r.firstChannel), QString::number(r.lastChannel))},
-                        {QJsonArray{r.lowEdgeMHz, r.highEdgeMHz},
-                         span(formatMHz(r.lowEdgeMHz), formatMHz(r.highEdgeMHz))},
+                        rangeCell(r.firstChannel, r.lastChannel),
+                        rangeCell(r.lowEdgeMHz, r.highEdgeMHz),
                         r.firstMHz,
                         r.lastMHz,
                         r.lastChannel > r.firstChannel ? QJsonValue(r.stepMHz) : QJsonValue(),

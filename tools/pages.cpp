@@ -47,12 +47,19 @@ QString optionCall(const ProgramOption &option)
     return call;
 }
 
+// "  CALL  HELP", a help of several lines indented under its first.
+QString entry(const QString &call, int width, const char *help)
+{
+    const QString indent = QLatin1Char('\n') + QString(width + 4, QLatin1Char(' '));
+    return QLatin1String("  ") + call.leftJustified(width) + QLatin1String("  ")
+           + QString::fromLatin1(help).replace(QLatin1Char('\n'), indent) + QLatin1Char('\n');
+}
+
 QString commandsText()
 {
     QString text;
     for (const Command &command : commands())
-        text += QLatin1String("  ") + command.call().leftJustified(22) + QLatin1String("  ")
-                + QLatin1String(command.summary) + QLatin1Char('\n');
+        text += entry(command.call(), 22, command.summary);
     return text;
 }
 
@@ -60,13 +67,8 @@ QString optionsText()
 {
     QString text;
     for (const ProgramOption &option : programOptions()) {
-        if (option.hidden)
-            continue;
-        const QStringList lines = QString::fromLatin1(option.help).split(QLatin1Char('\n'));
-        text += QLatin1String("  ") + optionCall(option).leftJustified(18) + QLatin1String("  ")
-                + lines.first() + QLatin1Char('\n');
-        for (const QString &line : lines.mid(1))
-            text += QString(22, QLatin1Char(' ')) + line + QLatin1Char('\n');
+        if (!option.hidden)
+            text += entry(optionCall(option), 18, option.help);
     }
     return text;
 }
