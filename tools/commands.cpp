@@ -110,12 +110,28 @@ Cell ranges(QList<Range> list, double adjacency)
     return {json, listCell(text, ",").text};
 }
 
-// A band's rows start with its title, and its JSON with the band.
+// "uplink"/"downlink" for JSON, and the cell that shows it as linkShort.
+QString linkWord(Link link)
+{
+    return link == Link::Up ? QStringLiteral("uplink") : QStringLiteral("downlink");
+}
+
+Cell linkCell(Link link)
+{
+    return {linkWord(link), linkShort(link)};
+}
+
+// A band's rows start with its title ("LTE-FDD - Band 1 (2100) [201]"), and
+// its JSON with the band.
 Outcome bandOutcome(const Band &band, const char *rowsKey)
 {
     Outcome out;
-    out.heading = bandTitle(band);
-    out.json.insert(QStringLiteral("band"), bandJson(band));
+    out.heading = band.standard() + QStringLiteral(" [%1]").arg(band.code());
+    out.json.insert(QStringLiteral("band"),
+                    QJsonObject{{QStringLiteral("code"), band.code()},
+                                {QStringLiteral("technology"), band.technologyName()},
+                                {QStringLiteral("band"), band.name()},
+                                {QStringLiteral("duplex"), saiskuko::duplexName(band.duplex())}});
     out.rowsKey = QLatin1String(rowsKey);
     return out;
 }

@@ -38,11 +38,9 @@ QStringList protectNegativeNumbers(QStringList arguments)
     return arguments;
 }
 
-QString unmarked(QString argument)
+QString unmarked(const QString &argument)
 {
-    if (argument.startsWith(kNumberMark))
-        argument.remove(0, 1);
-    return argument;
+    return argument.startsWith(kNumberMark) ? argument.mid(1) : argument;
 }
 
 // Where one run writes: its streams and the prefix of its messages; in batch
@@ -141,12 +139,8 @@ QString misuseOf(const Command &command, const QStringList &arguments,
 int runWords(const QStringList &words, const Run &run)
 {
     QCommandLineParser parser;
-    QList<QCommandLineOption> options;
-    for (const ProgramOption &entry : programOptions())
-        options << (entry.value ? QCommandLineOption(entry.allNames(), QString(),
-                                                     QLatin1String(entry.value))
-                                : QCommandLineOption(entry.allNames()));
-    parser.addOptions(options);
+    for (const ProgramOption &entry : programOptions()) // no value name: a switch
+        parser.addOption({entry.allNames(), QString(), QLatin1String(entry.value)});
     const auto isSet = [&](const char *name) { return parser.isSet(QLatin1String(name)); };
 
     const bool parsed = parser.parse(

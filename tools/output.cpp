@@ -134,29 +134,6 @@ QString linkShort(saiskuko::Link link)
     return link == saiskuko::Link::Up ? QStringLiteral("UL") : QStringLiteral("DL");
 }
 
-QString linkWord(saiskuko::Link link)
-{
-    return link == saiskuko::Link::Up ? QStringLiteral("uplink") : QStringLiteral("downlink");
-}
-
-Cell linkCell(saiskuko::Link link)
-{
-    return {linkWord(link), linkShort(link)};
-}
-
-QString bandTitle(const saiskuko::Band &band)
-{
-    return band.standard() + QStringLiteral(" [%1]").arg(band.code());
-}
-
-QJsonObject bandJson(const saiskuko::Band &band)
-{
-    return {{QStringLiteral("code"), band.code()},
-            {QStringLiteral("technology"), band.technologyName()},
-            {QStringLiteral("band"), band.name()},
-            {QStringLiteral("duplex"), saiskuko::duplexName(band.duplex())}};
-}
-
 namespace {
 QTextStream *g_libraryDiagnostics = nullptr;
 }

@@ -86,15 +86,8 @@ QString formatMHz(double mhz);
 QString cut(const QString &text);
 QString echoed(const QString &text);
 
-// "UL"/"DL" for text, "uplink"/"downlink" for JSON; the cell with both.
+// "UL"/"DL", a link for people.
 QString linkShort(saiskuko::Link link);
-QString linkWord(saiskuko::Link link);
-Cell linkCell(saiskuko::Link link);
-
-// "LTE-FDD - Band 1 (2100) [201]", and the band's JSON: code, technology,
-// band, duplex.
-QString bandTitle(const saiskuko::Band &band);
-QJsonObject bandJson(const saiskuko::Band &band);
 
 // The library's own diagnostics (its log lines) go to the error stream given
 // here, or nowhere (the default; --verbose shows them).
