@@ -65,11 +65,6 @@ QList<T> parseEach(const QStringList &args, T (*parse)(const QString &))
     return values;
 }
 
-Band parseBand(const QString &text)
-{
-    return valueOrBadInput(saiskuko::findBand(text));
-}
-
 QList<Link> linksFor(const Band &band, const CommandOptions &options)
 {
     return options.links.isEmpty() ? band.links() : options.links;
@@ -193,7 +188,7 @@ Outcome runBands(const QStringList &args, const CommandOptions &)
 
 Outcome runBand(const QStringList &args, const CommandOptions &)
 {
-    const Band band = parseBand(args[0]);
+    const Band band = valueOrBadInput(saiskuko::findBand(args[0]));
     Outcome out = bandOutcome(band, "records");
     out.columns =
         columns({"DIR|direction", "CHANNELS|channels", "EDGES MHZ|edgesMHz", "FIRST MHZ|firstMHz",
@@ -232,7 +227,7 @@ void addPair(const Band &band, Link link, int channel, QStringList *text, QJsonA
 
 Outcome runFreq(const QStringList &args, const CommandOptions &options)
 {
-    const Band band = parseBand(args[0]);
+    const Band band = valueOrBadInput(saiskuko::findBand(args[0]));
     const QList<int> channels = parseEach(args.mid(1), parseChannel);
     const QList<Link> links = linksFor(band, options);
     const bool paired = band.duplex() == Duplex::Fdd;
@@ -270,15 +265,6 @@ Outcome runFreq(const QStringList &args, const CommandOptions &options)
     return out;
 }
 
-// Every channel of the link centred on mhz, or the nearest one.
-QList<int> channelsAt(const Band &band, Link link, double mhz, bool nearest)
-{
-    if (!nearest)
-        return band.channelsAt(link, mhz).value();
-    const saiskuko::Result<int> channel = band.nearestChannel(link, mhz);
-    return channel.ok() ? QList<int>{channel.value()} : QList<int>();
-}
-
 // The centre of a channel nearest to mhz: a channel two records hold with
 // different formulas has a centre in each.
 double centreNear(const Band &band, Link link, int channel, double mhz)
@@ -293,7 +279,7 @@ double centreNear(const Band &band, Link link, int channel, double mhz)
 
 Outcome runChannel(const QStringList &args, const CommandOptions &options)
 {
-    const Band band = parseBand(args[0]);
+    const Band band = valueOrBadInput(saiskuko::findBand(args[0]));
     const QList<double> freqs = parseEach(args.mid(1), parseMHz);
     const QList<Link> links = linksFor(band, options);
 
@@ -311,7 +297,12 @@ Outcome runChannel(const QStringList &args, const CommandOptions &options)
     for (int i = 0; i < freqs.size(); ++i) {
         Row row{{freqs[i], args[i + 1].trimmed()}};
         for (Link link : links) {
-            const QList<int> found = channelsAt(band, link, freqs[i], options.nearest);
+            // Every channel of the link centred there, or the nearest one.
+            QList<int> found;
+            if (!options.nearest)
+                found = band.channelsAt(link, freqs[i]).value();
+            else if (const saiskuko::Result<int> n = band.nearestChannel(link, freqs[i]); n.ok())
+                found = {n.value()};
             if (found.isEmpty()) {
                 row << QJsonValue();
                 if (options.nearest)
@@ -405,7 +396,7 @@ Outcome runWhich(const QStringList &args, const CommandOptions &options)
 
 Outcome runChannels(const QStringList &args, const CommandOptions &options)
 {
-    const Band band = parseBand(args[0]);
+    const Band band = valueOrBadInput(saiskuko::findBand(args[0]));
     const double low = parseMHz(args[1]);
     const double high = parseMHz(args[2]);
     if (low > high)

@@ -12,6 +12,7 @@
 #include <QtCore/QJsonDocument>
 #include <QtCore/QTextStream>
 
+#include <algorithm>
 #include <cstdio>
 
 namespace {
@@ -69,15 +70,6 @@ void writeJson(const Run &run, const QString &command, const QStringList &argume
         run.batch ? QJsonDocument::Compact : QJsonDocument::Indented));
     if (run.batch)
         run.out << '\n';
-}
-
-const Command *findCommand(const QString &name)
-{
-    for (const Command &candidate : commands()) {
-        if (name == QLatin1String(candidate.name))
-            return &candidate;
-    }
-    return nullptr;
 }
 
 // The options a command reads, from a parsed command line.
@@ -151,7 +143,10 @@ int runWords(const QStringList &words, const Run &run)
     for (const QString &argument : parser.positionalArguments())
         positional << unmarked(argument);
     const QString name = positional.value(0);
-    const Command *command = findCommand(name);
+    const auto found = std::find_if(commands().begin(), commands().end(), [&](const Command &c) {
+        return name == QLatin1String(c.name);
+    });
+    const Command *command = found == commands().end() ? nullptr : &*found;
     const QStringList arguments = positional.mid(1);
 
     const auto fail = [&](const QString &message) {

@@ -30,11 +30,9 @@ void keepEarly(QtMsgType, const QMessageLogContext &, const QString &message)
     }
 }
 
-void installEarlyHandler()
-{
+[[gnu::used, gnu::section(".preinit_array")]] void (*g_preinit)() = [] {
     qInstallMessageHandler(keepEarly);
-}
-[[gnu::used, gnu::section(".preinit_array")]] void (*g_preinit)() = installEarlyHandler;
+};
 
 void releaseEarlyLog(bool show)
 {
@@ -47,11 +45,6 @@ void releaseEarlyLog(bool)
 {}
 #endif
 
-void toStderr(QtMsgType, const QMessageLogContext &, const QString &message)
-{
-    libraryDiagnostic(message);
-}
-
 } // namespace
 
 // Only an exhausted heap escapes, and ends the program as it should.
@@ -61,7 +54,9 @@ int main(int argc, char *argv[]) // NOLINT(bugprone-exception-escape)
     QCoreApplication::setApplicationName(QStringLiteral("saiskuko"));
     const QStringList arguments = QCoreApplication::arguments();
     releaseEarlyLog(verboseRequested(arguments));
-    qInstallMessageHandler(toStderr);
+    qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &message) {
+        libraryDiagnostic(message);
+    });
 
     QFile standardOutput, standardError;
     standardOutput.open(stdout, QIODevice::WriteOnly);
