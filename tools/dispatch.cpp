@@ -57,19 +57,28 @@ struct Run
 
 int runBatch(const QString &file, const Run &run);
 
-void writeJson(const Run &run, const QString &command, const QStringList &arguments, int status,
-               const QStringList &notes, const QJsonObject &result)
+// An outcome written out: as one JSON document, or as text where it has an
+// answer; its notes on stderr either way. Returns its status.
+int report(const Run &run, bool json, const QString &command, const QStringList &arguments,
+           const Outcome &outcome)
 {
-    const QJsonObject document{
-        {QStringLiteral("command"), command.isEmpty() ? QJsonValue() : QJsonValue(command)},
-        {QStringLiteral("arguments"), QJsonArray::fromStringList(arguments)},
-        {QStringLiteral("status"), status},
-        {QStringLiteral("notes"), QJsonArray::fromStringList(notes)},
-        {QStringLiteral("result"), result.isEmpty() ? QJsonValue() : QJsonValue(result)}};
-    run.out << QString::fromUtf8(QJsonDocument(document).toJson(
-        run.batch ? QJsonDocument::Compact : QJsonDocument::Indented));
-    if (run.batch)
-        run.out << '\n';
+    if (json) {
+        const QJsonObject result = outcome.result();
+        const QJsonObject document{
+            {QStringLiteral("command"), command.isEmpty() ? QJsonValue() : QJsonValue(command)},
+            {QStringLiteral("arguments"), QJsonArray::fromStringList(arguments)},
+            {QStringLiteral("status"), outcome.status},
+            {QStringLiteral("notes"), QJsonArray::fromStringList(outcome.notes)},
+            {QStringLiteral("result"), result.isEmpty() ? QJsonValue() : QJsonValue(result)}};
+        run.out << QString::fromUtf8(QJsonDocument(document).toJson(
+            run.batch ? QJsonDocument::Compact : QJsonDocument::Indented))
+                << (run.batch ? "\n" : "");
+    } else if (outcome.status == ExitOk) {
+        run.out << outcome.text();
+    }
+    for (const QString &note : outcome.notes)
+        run.err << run.prefix << note << '\n';
+    return outcome.status;
 }
 
 // The options a command reads, from a parsed command line.
@@ -150,10 +159,10 @@ int runWords(const QStringList &words, const Run &run)
     const QStringList arguments = positional.mid(1);
 
     const auto fail = [&](const QString &message) {
-        if (json)
-            writeJson(run, command ? name : QString(), arguments, ExitBadInput, {message}, {});
-        run.err << run.prefix << message << '\n';
-        return ExitBadInput;
+        Outcome outcome;
+        outcome.status = ExitBadInput;
+        outcome.notes << message;
+        return report(run, json, command ? name : QString(), arguments, outcome);
     };
     if (!parsed)
         return fail(cut(parser.errorText()) + QLatin1String(" (see: saiskuko --help)"));
@@ -163,13 +172,11 @@ int runWords(const QStringList &words, const Run &run)
         return ExitOk;
     }
     if (isSet("version")) {
-        if (json)
-            writeJson(run, QStringLiteral("version"), {}, ExitOk, {},
-                      {{QStringLiteral("program"), QStringLiteral("saiskuko")},
-                       {QStringLiteral("version"), QStringLiteral(SAISKUKO_VERSION_STR)}});
-        else
-            run.out << "saiskuko " SAISKUKO_VERSION_STR "\n";
-        return ExitOk;
+        Outcome version;
+        version.heading = QStringLiteral("saiskuko " SAISKUKO_VERSION_STR "\n");
+        version.json = {{QStringLiteral("program"), QStringLiteral("saiskuko")},
+                        {QStringLiteral("version"), QStringLiteral(SAISKUKO_VERSION_STR)}};
+        return report(run, json, QStringLiteral("version"), {}, version);
     }
     if (positional.isEmpty())
         return fail(QStringLiteral("no command given (see: saiskuko --help)"));
@@ -195,15 +202,7 @@ int runWords(const QStringList &words, const Run &run)
     }
 
     try {
-        const CommandOptions options = commandOptions(parser);
-        const Outcome outcome = command->run(arguments, options);
-        if (json)
-            writeJson(run, name, arguments, outcome.status, outcome.notes, outcome.result());
-        else if (outcome.status == ExitOk)
-            run.out << outcome.text();
-        for (const QString &note : outcome.notes)
-            run.err << run.prefix << note << '\n';
-        return outcome.status;
+        return report(run, json, name, arguments, command->run(arguments, commandOptions(parser)));
     } catch (const BadInput &error) {
         return fail(error.message);
     }
