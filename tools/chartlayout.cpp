@@ -192,7 +192,7 @@ ChartLayout layoutChart(const ChartRequest &request)
     QList<double> marks = request.marksMHz;
     std::sort(marks.begin(), marks.end());
     for (double mhz : marks)
-        layout.marks.append({mhz, layout.xOf(mhz), markLines(mhz, request.techs), {}});
+        layout.marks.append({layout.xOf(mhz), markLines(mhz, request.techs), {}});
     placeMarkLabels(&layout.marks, kMargin, layout.width);
     double y = kMargin;
     for (const ChartMark &mark : layout.marks)

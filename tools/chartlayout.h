@@ -67,7 +67,6 @@ struct ChartTick
 
 struct ChartMark
 {
-    double mhz = 0;
     double x = 0;
     QStringList lines; // the frequency, then one line per search hit
     ChartBox labelBox;

@@ -30,9 +30,11 @@ void keepEarly(QtMsgType, const QMessageLogContext &, const QString &message)
     }
 }
 
-[[gnu::used, gnu::section(".preinit_array")]] void (*g_preinit)() = [] {
+void installEarlyHandler()
+{
     qInstallMessageHandler(keepEarly);
-};
+}
+[[gnu::used, gnu::section(".preinit_array")]] void (*g_preinit)() = installEarlyHandler;
 
 void releaseEarlyLog(bool show)
 {
