@@ -1,5 +1,4 @@
-// The program's commands: each turns its arguments into typed API queries and its answers into
-// rows.
+// The program's commands: arguments turned into typed API queries, answers into rows.
 #include "commands.h"
 
 #include "chartsvg.h"

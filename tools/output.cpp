@@ -1,5 +1,4 @@
-// Text for people and JSON from one set of rows; MHz and link words; where the library's
-// diagnostics go.
+// Text and JSON from one set of rows, numbers and words for people, the diagnostics' sink.
 #include "output.h"
 
 #include <QtCore/QJsonArray>
