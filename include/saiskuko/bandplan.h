@@ -15,6 +15,7 @@
 #include <QtCore/QStringList>
 #include <QtCore/QStringView>
 
+#include <cmath>
 #include <utility>
 
 /// The typed API. Every function is safe to call from any number of threads
@@ -174,7 +175,7 @@ public:
     /// if (!mhz.ok())
     ///     qWarning().noquote() << mhz.error().message;
     /// @endcode
-    Result<double> frequency(Link link, int channel) const;
+    inline Result<double> frequency(Link link, int channel) const;
     /// Every centre of @p channel in the records of @p link, in registration
     /// order, each once (a channel two records hold with one formula counts
     /// once). Empty when no record holds it.
@@ -205,10 +206,25 @@ public:
 
 private:
     friend class BandAccess;
+    /// frequency()'s answer, or NaN where it has none: the part that runs in
+    /// the library, returned in a register.
+    double centreOrNaN(Link link, int channel) const;
+    /// Why frequency() has no answer for @p channel.
+    Result<double> noFrequency(Link link, int channel) const;
     Band(int tech, int band) : m_tech(qint16(tech)), m_band(qint16(band)) {}
     qint16 m_tech = -1;
     qint16 m_band = -1;
 };
+
+// The answer crosses the library's boundary as a double; only a failure
+// builds its Error there.
+inline Result<double> Band::frequency(Link link, int channel) const
+{
+    const double mhz = centreOrNaN(link, channel);
+    if (Q_LIKELY(std::isfinite(mhz)))
+        return mhz;
+    return noFrequency(link, channel);
+}
 
 /// One hit of search(): a band and link holding the frequency, and the
 /// link's channel nearest to it.

@@ -255,17 +255,6 @@ Record reported(const stSubBand &r)
 }
 
 // Why Band::frequency has no answer (out of line: the answer's path stays short).
-Q_NEVER_INLINE Result<double> noFrequency(const Band &band, Link link, int channel)
-{
-    const ChBand *data = bandData(band);
-    if (!data)
-        return invalidBand();
-    const Duplex duplex = band.duplex();
-    if (!anyRecord(*data, link, duplex, [](const stSubBand &) { return true; }))
-        return linkNotServed(band, link);
-    return channelNotInBand(band, *data, link, duplex, channel);
-}
-
 // Why Band::channelsAt (or, before its search, Band::nearestChannel) has no answer.
 Q_NEVER_INLINE Error noChannelAt(const Band &band, Link link, double mhz)
 {
@@ -347,24 +336,52 @@ bool Band::withinEdges(Link link, double mhz) const
               });
 }
 
-Result<double> Band::frequency(Link link, int channel) const
+namespace {
+
+// The centre of the channel from the first real record of the link that
+// holds it; NaN when none does.
+inline double firstCentre(const ChBand &data, int records, Link link, int channel, Duplex duplex)
+{
+    for (int i = 0; i < records; ++i) {
+        const stSubBand &r = data.SubBands[i];
+        if (holdsChannel(r, channel) && !isPlaceholder(r)
+            && servesLinkOfBand(r, int(link), duplex == Duplex::Tdd))
+            return recordFreq(r, channel);
+    }
+    return std::numeric_limits<double>::quiet_NaN();
+}
+
+// Band::centreOrNaN for a band whose duplex is not decided yet: out of line,
+// so that the quick path makes no call but the formula's.
+Q_NEVER_INLINE double centreOnceDecided(int tech, int slot, const ChBand &data, int records,
+                                        Link link, int channel)
+{
+    return firstCentre(data, records, link, channel, decideDuplex(tech, slot, data));
+}
+
+} // namespace
+
+double Band::centreOrNaN(Link link, int channel) const
 {
     const ChBand *data = bandData(*this);
-    if (Q_LIKELY(data)) {
-        const int n = ::recordCount(*data);
-        const bool tdd = cachedDuplex(m_tech, m_band, *data, n) == Duplex::Tdd;
-        for (int i = 0; i < n; ++i) {
-            const stSubBand &r = data->SubBands[i];
-            if (holdsChannel(r, channel) && !isPlaceholder(r)
-                && servesLinkOfBand(r, int(link), tdd)) {
-                const double mhz = recordFreq(r, channel);
-                if (Q_LIKELY(std::isfinite(mhz)))
-                    return mhz;
-                break;
-            }
-        }
-    }
-    return noFrequency(*this, link, channel);
+    if (Q_UNLIKELY(!data))
+        return std::numeric_limits<double>::quiet_NaN();
+    const int n = ::recordCount(*data);
+    Duplex duplex;
+    if (Q_UNLIKELY(!keptDuplex(m_tech, m_band, n, &duplex)))
+        return centreOnceDecided(m_tech, m_band, *data, n, link, channel);
+    return firstCentre(*data, n, link, channel, duplex);
+}
+
+Result<double> Band::noFrequency(Link link, int channel) const
+{
+    const ChBand *data = bandData(*this);
+    if (!data)
+        return invalidBand();
+    const Duplex duplex = this->duplex();
+    if (!anyRecord(*data, link, duplex, [](const stSubBand &) { return true; }))
+        return linkNotServed(*this, link);
+    return channelNotInBand(*this, *data, link, duplex, channel);
 }
 
 QList<double> Band::frequencies(Link link, int channel) const

@@ -51,12 +51,19 @@ extern std::atomic<quint32> g_duplexOfSlot[kNumTechSlots][ChTechnology::MaxBands
 Duplex decideDuplex(int tech, int slot, const ChBand &band);
 
 // The band's duplex, decided once per band slot and record count.
+// The band's duplex as kept for its record count; false when it has not
+// been decided for that count yet.
+inline bool keptDuplex(int tech, int slot, int records, Duplex *duplex)
+{
+    const quint32 kept = g_duplexOfSlot[tech][slot].load(std::memory_order_relaxed);
+    *duplex = Duplex(kept & 3u);
+    return (kept >> 2) == quint32(records) + 1;
+}
 inline Duplex cachedDuplex(int tech, int slot, const ChBand &band, int records)
 {
-    const quint32 stamp = quint32(records) + 1;
-    const quint32 kept = g_duplexOfSlot[tech][slot].load(std::memory_order_relaxed);
-    if (Q_LIKELY((kept >> 2) == stamp))
-        return Duplex(kept & 3u);
+    Duplex duplex;
+    if (Q_LIKELY(keptDuplex(tech, slot, records, &duplex)))
+        return duplex;
     return decideDuplex(tech, slot, band);
 }
 inline Duplex cachedDuplex(int tech, int slot, const ChBand &band)
