@@ -167,7 +167,9 @@ public:
 
     /// Centre frequency of @p channel in MHz, from the first record of
     /// @p link that holds it: bit-identical to ChBandStore::GetFreq wherever
-    /// both answer. Fails with LinkNotServed or ChannelNotInBand (the message
+    /// both answer from the same record. (GetFreq takes a paired "Band Global"
+    /// as time-division and may answer one link from the other's records;
+    /// frequency() keeps to the link.) Fails with LinkNotServed or ChannelNotInBand (the message
     /// gives the valid channels).
     /// @code
     /// const auto band = saiskuko::findBand(u"LTE:1");
@@ -187,13 +189,16 @@ public:
     Result<QList<int>> channelsAt(Link link, double mhz) const;
     /// The channel of @p link whose centre is nearest to @p mhz (the first in
     /// registration order on a tie), for @p mhz within the span of the link's
-    /// edges and centres. Fails with NotFinite, LinkNotServed or
+    /// edges and centres, widened by half a hertz: every frequency channelsAt()
+    /// answers for has a nearest channel among them. Fails with NotFinite, LinkNotServed or
     /// FrequencyNotInBand.
     Result<int> nearestChannel(Link link, double mhz) const;
     /// The channel of the other link paired with @p channel of an FDD band,
     /// from the band's uplink-to-downlink channel offset. Fails with
     /// ChannelNotInBand, or NoPairedChannel where the band is not FDD, its
     /// links share channel numbers, or the pair is no channel of the other link.
+    /// In "Band Global", which repeats every band, a channel pairs as in the
+    /// first record that holds it, so a pair need not lead back.
     Result<int> pairedChannel(Link link, int channel) const;
 
     /// Same band.

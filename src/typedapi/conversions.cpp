@@ -429,7 +429,8 @@ Result<int> Band::nearestChannel(Link link, double mhz) const
                            centreSpan(r, facts, &low, &high);
                            offerNearest(r, facts, mhz, &best);
                        });
-    if (Q_LIKELY(low <= mhz && mhz <= high && best.channel >= 0))
+    // A channel centred on an edge counts from half a hertz away, as in channelsAt().
+    if (Q_LIKELY(low - kSameCentreMHz <= mhz && mhz <= high + kSameCentreMHz && best.channel >= 0))
         return int(best.channel);
     if (!anyRecord(*data, link, duplex, [](const stSubBand &) { return true; }))
         return linkNotServed(*this, link);
