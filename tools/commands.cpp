@@ -543,24 +543,22 @@ Outcome runChart(const QStringList &args, const CommandOptions &options)
 const QList<Command> &commands()
 {
     static const QList<Command> list{
-        {"techs", "", "technologies, band counts, integration bandwidths", 0, 0, "", runTechs},
-        {"bands", "TECH", "codes, channel and MHz ranges, records, duplex", 1, 1, "", runBands},
-        {"band", "BAND", "one band in detail: every record, raster, duplex, pairing", 1, 1, "",
-         runBand},
-        {"freq", "BAND CHANNEL...", "centre frequency of each channel, per direction", 2, -1,
-         "ul dl", runFreq},
-        {"channel", "BAND MHZ...", "channels centred on MHZ (or the nearest), per direction", 2, -1,
+        {"techs", "", "technologies, band counts, integration bandwidths", "", runTechs},
+        {"bands", "TECH", "codes, channel and MHz ranges, records, duplex", "", runBands},
+        {"band", "BAND", "one band in detail: every record, raster, duplex, pairing", "", runBand},
+        {"freq", "BAND CHANNEL...", "centre frequency of each channel, per direction", "ul dl",
+         runFreq},
+        {"channel", "BAND MHZ...", "channels centred on MHZ (or the nearest), per direction",
          "ul dl preferred nearest", runChannel},
-        {"search", "MHZ...", "bands holding MHZ, nearest channel first", 1, -1, "ul dl", runSearch},
-        {"channels", "BAND LOW HIGH", "channels of a band centred in LOW..HIGH MHz", 3, 3, "ul dl",
+        {"search", "MHZ...", "bands holding MHZ, nearest channel first", "ul dl", runSearch},
+        {"channels", "BAND LOW HIGH", "channels of a band centred in LOW..HIGH MHz", "ul dl",
          runChannels},
-        {"table", "[MODE]", "band table of an instrument mode; the modes without MODE", 0, 1,
-         "link", runTable},
-        {"which", "CHANNEL...", "every band and direction that has CHANNEL", 1, -1, "ul dl",
-         runWhich},
-        {"chart", "LOW HIGH", "an SVG picture of the bands between LOW and HIGH MHz", 2, 2,
+        {"table", "[MODE]", "band table of an instrument mode; the modes without MODE", "link",
+         runTable},
+        {"which", "CHANNEL...", "every band and direction that has CHANNEL", "ul dl", runWhich},
+        {"chart", "LOW HIGH", "an SVG picture of the bands between LOW and HIGH MHz",
          "tech mark output", runChart},
-        {"batch", "[FILE]", "one command per line of FILE (or standard input)", 0, 1, "", nullptr},
+        {"batch", "[FILE]", "one command per line of FILE (or standard input)", "", nullptr},
     };
     return list;
 }
@@ -570,24 +568,24 @@ const QList<ProgramOption> &programOptions()
     // clang-format off
     static const QList<ProgramOption> list{
         {"ul", nullptr, "only uplink (freq, channel, search, channels, which);\n"
-                        "default: every direction the band has", false, false},
-        {"dl", nullptr, "only downlink", false, false},
+                        "default: every direction the band has"},
+        {"dl", nullptr, "only downlink"},
         {"preferred", "N", "channel: show only channel N where the frequency has several\n"
-                            "(JSON still lists them all)", false, false},
+                            "(JSON still lists them all)"},
         {"nearest", nullptr, "channel: the nearest channel of each direction and its\n"
-                             "offset, for a frequency off the raster", false, false},
-        {"link", "0|1", "table: 0 downlink ranges (default), 1 uplink ranges", false, false},
-        {"tech", "T", "chart: only technology T (repeatable; short names as for bands)", false, false},
+                             "offset, for a frequency off the raster"},
+        {"link", "0|1", "table: 0 downlink ranges (default), 1 uplink ranges"},
+        {"tech", "T", "chart: only technology T (repeatable; short names as for bands)"},
         {"mark", "MHZ", "chart: a line at MHZ, labelled with the bands and channels\n"
-                        "there (repeatable)", false, false},
-        {"o output", "FILE", "chart: write the SVG to FILE instead of stdout", false, false},
-        {"json", nullptr, "JSON on stdout, full precision; in batch one document a line", true, false},
-        {"verbose", nullptr, "show the library's banner and diagnostics on stderr", true, false},
-        {"q quiet", nullptr, "no library diagnostics (the default)", true, false},
-        {"h help", nullptr, "this text", true, false},
-        {"v version", nullptr, "the library's version", true, false},
-        {"man", nullptr, "", true, true},
-        {"completion", nullptr, "", true, true},
+                        "there (repeatable)"},
+        {"o output", "FILE", "chart: write the SVG to FILE instead of stdout"},
+        {"json", nullptr, "JSON on stdout, full precision; in batch one document a line", true},
+        {"verbose", nullptr, "show the library's banner and diagnostics on stderr", true},
+        {"q quiet", nullptr, "no library diagnostics (the default)", true},
+        {"h help", nullptr, "this text", true},
+        {"v version", nullptr, "the library's version", true},
+        {"man", nullptr, "", true},
+        {"completion", nullptr, "", true},
     };
     // clang-format on
     return list;

@@ -119,13 +119,16 @@ CommandOptions commandOptions(const QCommandLineParser &parser)
 QString misuseOf(const Command &command, const QStringList &arguments,
                  const QCommandLineParser &parser)
 {
-    if (arguments.size() < command.minArgs
-        || (command.maxArgs >= 0 && arguments.size() > command.maxArgs))
+    const QStringList words =
+        QString::fromLatin1(command.usage).split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    const int least = words.size() - QString::fromLatin1(command.usage).count(QLatin1Char('['));
+    const bool repeats = QLatin1String(command.usage).endsWith(QLatin1String("..."));
+    if (arguments.size() < least || (!repeats && arguments.size() > words.size()))
         return QStringLiteral("%1 takes %2 (usage: saiskuko %3)")
             .arg(QLatin1String(command.name),
-                 command.maxArgs == 0                 ? QStringLiteral("no arguments")
-                 : arguments.size() < command.minArgs ? QStringLiteral("more arguments")
-                                                      : QStringLiteral("fewer arguments"),
+                 words.isEmpty()            ? QStringLiteral("no arguments")
+                 : arguments.size() < least ? QStringLiteral("more arguments")
+                                            : QStringLiteral("fewer arguments"),
                  command.call());
     const QStringList takes = QString::fromLatin1(command.options).split(QLatin1Char(' '));
     for (const ProgramOption &entry : programOptions()) {

@@ -31,7 +31,6 @@ const char *const kExit =
     "0 found, 1 valid query without result (said on stderr; --json still prints the\n"
     "document), 2 bad input (one line on stderr), 3 the answer could not be written.\n"
     "batch: 0 when every line succeeded, else the worst status of a line.\n";
-// clang-format on
 
 const char *const kSummary = "Looks up the band plan of CDMA, GSM, LTE, TD-SCDMA, WCDMA, WiMAX "
                              "and 5G NR:\nchannels, centre frequencies and bands.\n";
@@ -67,7 +66,7 @@ QString optionsText()
 {
     QString text;
     for (const ProgramOption &option : programOptions()) {
-        if (!option.hidden)
+        if (*option.help)
             text += entry(optionCall(option), 18, option.help);
     }
     return text;
@@ -120,7 +119,7 @@ QString completionText()
         commandNames << QLatin1String(command.name);
     for (const ProgramOption &option : programOptions()) {
         for (const QString &name : option.allNames()) {
-            if (!option.hidden && name.size() > 1)
+            if (*option.help && name.size() > 1)
                 optionNames << QLatin1String("--") + name;
         }
     }
