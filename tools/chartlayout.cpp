@@ -23,12 +23,11 @@ using saiskuko::Record;
 
 QString barTitle(const Band &band, BarKind kind, const Record &record)
 {
-    return band.technologyName() + QLatin1Char('\n') + band.name()
-           + QStringLiteral(" [%1]").arg(band.code()) + QLatin1Char('\n')
-           + QLatin1String(kDirections[int(kind)]) + QLatin1Char('\n')
-           + QStringLiteral("channels %1-%2").arg(record.firstChannel).arg(record.lastChannel)
-           + QLatin1Char('\n') + formatMHz(record.lowEdgeMHz) + QLatin1Char('-')
-           + formatMHz(record.highEdgeMHz) + QStringLiteral(" MHz");
+    return QStringLiteral("%1\n%2 [%3]\n%4\nchannels %5-%6\n%7-%8 MHz")
+        .arg(band.technologyName(), band.name(), QString::number(band.code()),
+             QLatin1String(kDirections[int(kind)]), QString::number(record.firstChannel),
+             QString::number(record.lastChannel), formatMHz(record.lowEdgeMHz),
+             formatMHz(record.highEdgeMHz));
 }
 
 // Whether a record shows in the window: its edges overlap it (a record of

@@ -329,11 +329,10 @@ Outcome runChannel(const QStringList &args, const CommandOptions &options)
             if (options.nearest)
                 row << centre - freqs[i];
             if (!inside)
-                out.notes << QStringLiteral("%1 channel %2 (%3 MHz) lies outside the stated "
-                                            "edges of %4")
-                                 .arg(linkShort(link))
-                                 .arg(channel)
-                                 .arg(formatMHz(centre), band.standard());
+                out.notes << QStringLiteral(
+                                 "%1 channel %2 (%3 MHz) lies outside the stated edges of %4")
+                                 .arg(linkShort(link), QString::number(channel), formatMHz(centre),
+                                      band.standard());
         }
         out.rows << row;
     }

@@ -54,30 +54,19 @@ QString entry(const QString &call, int width, const char *help)
            + QString::fromLatin1(help).replace(QLatin1Char('\n'), indent) + QLatin1Char('\n');
 }
 
-QString commandsText()
-{
-    QString text;
-    for (const Command &command : commands())
-        text += entry(command.call(), 22, command.summary);
-    return text;
-}
-
-QString optionsText()
-{
-    QString text;
-    for (const ProgramOption &option : programOptions()) {
-        if (*option.help)
-            text += entry(optionCall(option), 18, option.help);
-    }
-    return text;
-}
-
 // Title and body of each section after the summary.
 QList<std::pair<QString, QString>> sections()
 {
-    return {{QStringLiteral("Commands"), commandsText()},
+    QString commandList, optionList;
+    for (const Command &command : commands())
+        commandList += entry(command.call(), 22, command.summary);
+    for (const ProgramOption &option : programOptions()) {
+        if (*option.help)
+            optionList += entry(optionCall(option), 18, option.help);
+    }
+    return {{QStringLiteral("Commands"), commandList},
             {QStringLiteral("Naming a band (one argument)"), QLatin1String(kNaming)},
-            {QStringLiteral("Options"), optionsText()},
+            {QStringLiteral("Options"), optionList},
             {QStringLiteral("Notes"), QLatin1String(kNotes)},
             {QStringLiteral("Exit status"), QLatin1String(kExit)}};
 }
