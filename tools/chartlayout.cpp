@@ -72,9 +72,9 @@ QStringList markLines(double mhz, const QList<saiskuko::Technology> &techs)
     QStringList lines{formatMHz(mhz) + QStringLiteral(" MHz")};
     for (const saiskuko::SearchHit &hit : saiskuko::search(mhz)) {
         if (techs.isEmpty() || techs.contains(hit.band.technology()))
-            lines << hit.band.technologyName() + QLatin1Char(' ') + hit.band.name()
-                         + QLatin1Char(' ') + linkShort(hit.link) + QStringLiteral(" ch ")
-                         + QString::number(hit.channel);
+            lines << QStringLiteral("%1 %2 %3 ch %4")
+                         .arg(hit.band.technologyName(), hit.band.name(), linkShort(hit.link),
+                              QString::number(hit.channel));
     }
     return lines;
 }

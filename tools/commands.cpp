@@ -259,8 +259,8 @@ Outcome runFreq(const QStringList &args, const CommandOptions &options)
     if (!any)
         out.noResult((channels.size() == 1 ? QStringLiteral("channel %1 is not").arg(channels[0])
                                            : QStringLiteral("none of these channels is"))
-                     + QLatin1String(" in ") + band.standard() + QLatin1String(" (")
-                     + words.join(QLatin1String(" or ")) + QLatin1Char(')'));
+                     + QStringLiteral(" in %1 (%2)")
+                           .arg(band.standard(), words.join(QLatin1String(" or "))));
     return out;
 }
 
@@ -362,8 +362,7 @@ Outcome runSearch(const QStringList &args, const CommandOptions &options)
                                 + Row{hit.channel, hit.channelMHz, hit.offsetMHz};
         }
         if (out.rows.size() == before)
-            out.notes << QLatin1String("no band holds ") + cut(args[i].trimmed())
-                             + QLatin1String(" MHz");
+            out.notes << QStringLiteral("no band holds %1 MHz").arg(cut(args[i].trimmed()));
     }
     if (out.rows.isEmpty())
         out.status = ExitNoResult;
@@ -398,12 +397,11 @@ Outcome runChannels(const QStringList &args, const CommandOptions &options)
     const double low = parseMHz(args[1]);
     const double high = parseMHz(args[2]);
     if (low > high)
-        throw BadInput{QLatin1String("the window ") + cut(args[1].trimmed()) + QLatin1String(" to ")
-                       + cut(args[2].trimmed()) + QLatin1String(" MHz is empty: LOW exceeds HIGH")};
+        throw BadInput{QStringLiteral("the window %1 to %2 MHz is empty: LOW exceeds HIGH")
+                           .arg(cut(args[1].trimmed()), cut(args[2].trimmed()))};
 
     Outcome out = bandOutcome(band, "runs");
-    out.heading += QLatin1String(", ") + formatMHz(low) + QLatin1String(" to ") + formatMHz(high)
-                   + QLatin1String(" MHz");
+    out.heading += QStringLiteral(", %1 to %2 MHz").arg(formatMHz(low), formatMHz(high));
     out.json.insert(QStringLiteral("lowMHz"), low);
     out.json.insert(QStringLiteral("highMHz"), high);
     out.columns = columns({"DIR|direction", ">FIRST|first", ">LAST|last", ">COUNT|count",
@@ -431,9 +429,8 @@ Outcome runChannels(const QStringList &args, const CommandOptions &options)
         }
     }
     if (out.rows.isEmpty())
-        out.noResult(QLatin1String("no channel of ") + band.standard()
-                     + QLatin1String(" lies between ") + cut(args[1].trimmed())
-                     + QLatin1String(" and ") + cut(args[2].trimmed()) + QLatin1String(" MHz"));
+        out.noResult(QStringLiteral("no channel of %1 lies between %2 and %3 MHz")
+                         .arg(band.standard(), cut(args[1].trimmed()), cut(args[2].trimmed())));
     return out;
 }
 
