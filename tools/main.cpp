@@ -4,7 +4,6 @@
 #include "program.h"
 
 #include <QtCore/QCoreApplication>
-#include <QtCore/QFile>
 #include <QtCore/QTextStream>
 
 #include <cstdio>
@@ -60,9 +59,6 @@ int main(int argc, char *argv[]) // NOLINT(bugprone-exception-escape)
         libraryDiagnostic(message);
     });
 
-    QFile standardOutput, standardError;
-    standardOutput.open(stdout, QIODevice::WriteOnly);
-    standardError.open(stderr, QIODevice::WriteOnly);
-    QTextStream out(&standardOutput), err(&standardError);
+    QTextStream out(stdout, QIODevice::WriteOnly), err(stderr, QIODevice::WriteOnly);
     return runProgram(arguments, out, err);
 }
