@@ -117,16 +117,16 @@ Cell linkCell(Link link)
 
 // A band's rows start with its title ("LTE-FDD - Band 1 (2100) [201]"), and
 // its JSON with the band.
-Outcome bandOutcome(const Band &band, const char *rowsKey)
+Outcome bandOutcome(const Band &band, const char *rowsKey,
+                    std::initializer_list<const char *> columnSpecs)
 {
-    Outcome out;
+    Outcome out(rowsKey, columnSpecs);
     out.heading = band.standard() + QStringLiteral(" [%1]").arg(band.code());
     out.json.insert(QStringLiteral("band"),
                     QJsonObject{{QStringLiteral("code"), band.code()},
                                 {QStringLiteral("technology"), band.technologyName()},
                                 {QStringLiteral("band"), band.name()},
                                 {QStringLiteral("duplex"), saiskuko::duplexName(band.duplex())}});
-    out.rowsKey = QLatin1String(rowsKey);
     return out;
 }
 
@@ -140,10 +140,8 @@ Row bandLinkCells(const Band &band, Link link)
 
 Outcome runTechs(const QStringList &, const CommandOptions &)
 {
-    Outcome out;
-    out.rowsKey = QStringLiteral("technologies");
-    out.columns = columns({">SLOT|slot", "TECH|name", ">BANDS|bands",
-                           ">INT BW HZ|defaultIntegrationBandwidthHz", "SHORT|shortForms"});
+    Outcome out("technologies", {">SLOT|slot", "TECH|name", ">BANDS|bands",
+                                 ">INT BW HZ|defaultIntegrationBandwidthHz", "SHORT|shortForms"});
     for (saiskuko::Technology tech : saiskuko::technologies())
         out.rows << Row{int(tech), saiskuko::technologyName(tech), saiskuko::bands(tech).size(),
                         saiskuko::defaultIntegrationBandwidthHz(tech),
@@ -154,12 +152,10 @@ Outcome runTechs(const QStringList &, const CommandOptions &)
 Outcome runBands(const QStringList &args, const CommandOptions &)
 {
     const saiskuko::Technology tech = valueOrBadInput(saiskuko::findTechnology(args[0]));
-    Outcome out;
+    Outcome out("bands", {">CODE|code", "BAND|band", "UL CHANNELS|uplink", "UL MHZ|",
+                          "DL CHANNELS|downlink", "DL MHZ|", ">RECORDS|records", "DUPLEX|duplex",
+                          "|technology", "|standard", "|global"});
     out.json.insert(QStringLiteral("technology"), saiskuko::technologyName(tech));
-    out.rowsKey = QStringLiteral("bands");
-    out.columns = columns({">CODE|code", "BAND|band", "UL CHANNELS|uplink", "UL MHZ|",
-                           "DL CHANNELS|downlink", "DL MHZ|", ">RECORDS|records", "DUPLEX|duplex",
-                           "|technology", "|standard", "|global"});
     for (const Band &band : saiskuko::bands(tech)) {
         Row row{band.code(), band.name()};
         for (Link link : {Link::Up, Link::Down}) {
@@ -188,10 +184,10 @@ Outcome runBands(const QStringList &args, const CommandOptions &)
 Outcome runBand(const QStringList &args, const CommandOptions &)
 {
     const Band band = valueOrBadInput(saiskuko::findBand(args[0]));
-    Outcome out = bandOutcome(band, "records");
-    out.columns =
-        columns({"DIR|direction", "CHANNELS|channels", "EDGES MHZ|edgesMHz", "FIRST MHZ|firstMHz",
-                 "LAST MHZ|lastMHz", "STEP MHZ|stepMHz", "DUPLEX|", ">PAIR OFFSET|pairOffset"});
+    Outcome out = bandOutcome(band, "records",
+                              {"DIR|direction", "CHANNELS|channels", "EDGES MHZ|edgesMHz",
+                               "FIRST MHZ|firstMHz", "LAST MHZ|lastMHz", "STEP MHZ|stepMHz",
+                               "DUPLEX|", ">PAIR OFFSET|pairOffset"});
     for (const Record &r : band.records()) {
         const saiskuko::Result<int> paired = band.pairedChannel(r.link, r.firstChannel);
         const int offset = (paired.value() - r.firstChannel) * (r.link == Link::Up ? -1 : 1);
@@ -231,8 +227,7 @@ Outcome runFreq(const QStringList &args, const CommandOptions &options)
     const QList<Link> links = linksFor(band, options);
     const bool paired = band.duplex() == Duplex::Fdd;
 
-    Outcome out = bandOutcome(band, "results");
-    out.columns = columns({"CHANNEL|channel"});
+    Outcome out = bandOutcome(band, "results", {"CHANNEL|channel"});
     QStringList words;
     for (Link link : links) {
         out.columns << Column{linkShort(link) + QLatin1String(" MHZ"), linkWord(link)};
@@ -282,11 +277,10 @@ Outcome runChannel(const QStringList &args, const CommandOptions &options)
     const QList<double> freqs = parseEach(args.mid(1), parseMHz);
     const QList<Link> links = linksFor(band, options);
 
-    Outcome out = bandOutcome(band, "results");
+    Outcome out = bandOutcome(band, "results", {"MHZ|mhz"});
     out.json.insert(QStringLiteral("preferred"),
                     options.preferred ? QJsonValue(*options.preferred) : QJsonValue());
     out.json.insert(QStringLiteral("nearest"), options.nearest);
-    out.columns = columns({"MHZ|mhz"});
     for (Link link : links) {
         out.columns << Column{linkShort(link) + QLatin1String(" CHANNEL"), linkWord(link)};
         if (options.nearest)
@@ -349,10 +343,9 @@ Outcome runChannel(const QStringList &args, const CommandOptions &options)
 // Every band and link holding each frequency, nearest channel first.
 Outcome runSearch(const QStringList &args, const CommandOptions &options)
 {
-    Outcome out;
-    out.rowsKey = QStringLiteral("results");
-    out.columns = columns({"MHZ|mhz", ">CODE|code", "TECH|technology", "BAND|band", "DIR|direction",
-                           ">CHANNEL|channel", "CHANNEL MHZ|channelMHz", "OFFSET MHZ|offsetMHz"});
+    Outcome out("results",
+                {"MHZ|mhz", ">CODE|code", "TECH|technology", "BAND|band", "DIR|direction",
+                 ">CHANNEL|channel", "CHANNEL MHZ|channelMHz", "OFFSET MHZ|offsetMHz"});
     const QList<double> freqs = parseEach(args, parseMHz);
     for (int i = 0; i < freqs.size(); ++i) {
         const int before = out.rows.size();
@@ -371,10 +364,8 @@ Outcome runSearch(const QStringList &args, const CommandOptions &options)
 
 Outcome runWhich(const QStringList &args, const CommandOptions &options)
 {
-    Outcome out;
-    out.rowsKey = QStringLiteral("results");
-    out.columns = columns({">CHANNEL|channel", ">CODE|code", "TECH|technology", "BAND|band",
-                           "DIR|direction", "MHZ|mhz"});
+    Outcome out("results", {">CHANNEL|channel", ">CODE|code", "TECH|technology", "BAND|band",
+                            "DIR|direction", "MHZ|mhz"});
     for (int channel : parseEach(args, parseChannel)) {
         const int before = out.rows.size();
         for (const Band &band : saiskuko::bandsWithChannel(channel)) {
@@ -400,12 +391,12 @@ Outcome runChannels(const QStringList &args, const CommandOptions &options)
         throw BadInput{QStringLiteral("the window %1 to %2 MHz is empty: LOW exceeds HIGH")
                            .arg(cut(args[1].trimmed()), cut(args[2].trimmed()))};
 
-    Outcome out = bandOutcome(band, "runs");
+    Outcome out = bandOutcome(band, "runs",
+                              {"DIR|direction", ">FIRST|first", ">LAST|last", ">COUNT|count",
+                               "FIRST MHZ|firstMHz", "LAST MHZ|lastMHz"});
     out.heading += QStringLiteral(", %1 to %2 MHz").arg(formatMHz(low), formatMHz(high));
     out.json.insert(QStringLiteral("lowMHz"), low);
     out.json.insert(QStringLiteral("highMHz"), high);
-    out.columns = columns({"DIR|direction", ">FIRST|first", ">LAST|last", ">COUNT|count",
-                           "FIRST MHZ|firstMHz", "LAST MHZ|lastMHz"});
     for (Link link : linksFor(band, options)) {
         // Every record of the link, not only the first: E-GSM 900's uplink
         // has two channel ranges.
@@ -449,9 +440,7 @@ constexpr int kLastMode = 23;
 // Every mode code and the technologies its band table lists.
 Outcome runModes(const CommandOptions &options)
 {
-    Outcome out;
-    out.rowsKey = QStringLiteral("modes");
-    out.columns = columns({">MODE|mode", "TECHNOLOGIES|technologies"});
+    Outcome out("modes", {">MODE|mode", "TECHNOLOGIES|technologies"});
     for (int mode = kFirstMode; mode <= kLastMode; ++mode) {
         QStringList techs = ChStd::GetBandListByMode(mode, 0, options.link).techList;
         techs.removeDuplicates();
@@ -473,12 +462,10 @@ Outcome runTable(const QStringList &args, const CommandOptions &options)
                        + QLatin1String(" is not an instrument mode (1 to 23)")};
     const stCHList list = ChStd::GetBandListByMode(mode, 0, options.link);
 
-    Outcome out;
+    Outcome out("rows",
+                {"TECH|technology", "BAND|band", "CHANNELS|channelRanges", "MHZ|frequencyRanges"});
     out.json.insert(QStringLiteral("mode"), mode);
     out.json.insert(QStringLiteral("link"), options.link);
-    out.rowsKey = QStringLiteral("rows");
-    out.columns =
-        columns({"TECH|technology", "BAND|band", "CHANNELS|channelRanges", "MHZ|frequencyRanges"});
     const int count =
         std::min({list.techList.size(), list.bandList.size(), list.chRangeList.size()});
     for (int i = 0; i < count; ++i) {

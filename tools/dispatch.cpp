@@ -278,9 +278,6 @@ int runProgram(const QStringList &arguments, QTextStream &out, QTextStream &err)
 
 bool verboseRequested(const QStringList &arguments)
 {
-    for (int i = 1; i < arguments.size() && arguments[i] != QLatin1String("--"); ++i) {
-        if (arguments[i] == QLatin1String("--verbose"))
-            return true;
-    }
-    return false;
+    const int end = arguments.indexOf(QStringLiteral("--"), 1);
+    return arguments.mid(1, end < 0 ? -1 : end - 1).contains(QStringLiteral("--verbose"));
 }

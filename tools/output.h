@@ -62,6 +62,12 @@ using Row = QList<Cell>;
 // explanations) for stderr.
 struct Outcome
 {
+    Outcome() = default;
+    // Rows kept under rowsKey, in columns written as columns() reads them.
+    Outcome(const char *rowsKey, std::initializer_list<const char *> columnSpecs)
+        : rowsKey(QLatin1String(rowsKey)), columns(::columns(columnSpecs))
+    {}
+
     QString heading;  // the line above the table; without columns, the whole text
     QJsonObject json; // the result's members besides the rows
     QString rowsKey;  // the member holding the rows
