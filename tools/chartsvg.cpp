@@ -1,8 +1,6 @@
 // The chart layout written out as an SVG document.
 #include "chartsvg.h"
 
-#include "output.h"
-
 #include <QtCore/QXmlStreamWriter>
 
 #include <initializer_list>

@@ -350,7 +350,7 @@ Outcome runSearch(const QStringList &args, const CommandOptions &options)
     for (int i = 0; i < freqs.size(); ++i) {
         const int before = out.rows.size();
         for (const saiskuko::SearchHit &hit : saiskuko::search(freqs[i])) {
-            if (options.links.isEmpty() || options.links.contains(hit.link))
+            if (linksFor(hit.band, options).contains(hit.link))
                 out.rows << Row{{freqs[i], args[i].trimmed()}} + bandLinkCells(hit.band, hit.link)
                                 + Row{hit.channel, hit.channelMHz, hit.offsetMHz};
         }
@@ -458,8 +458,9 @@ Outcome runTable(const QStringList &args, const CommandOptions &options)
     bool ok = false;
     const int mode = args[0].trimmed().toInt(&ok, 10);
     if (!ok || mode < kFirstMode || mode > kLastMode)
-        throw BadInput{QLatin1String("mode ") + echoed(args[0])
-                       + QLatin1String(" is not an instrument mode (1 to 23)")};
+        throw BadInput{
+            QStringLiteral("mode %1 is not an instrument mode (%2 to %3)")
+                .arg(echoed(args[0]), QString::number(kFirstMode), QString::number(kLastMode))};
     const stCHList list = ChStd::GetBandListByMode(mode, 0, options.link);
 
     Outcome out("rows",

@@ -52,7 +52,6 @@ void releaseEarlyLog(bool)
 int main(int argc, char *argv[]) // NOLINT(bugprone-exception-escape)
 {
     QCoreApplication app(argc, argv);
-    QCoreApplication::setApplicationName(QStringLiteral("saiskuko"));
     const QStringList arguments = QCoreApplication::arguments();
     releaseEarlyLog(verboseRequested(arguments));
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &message) {
