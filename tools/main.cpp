@@ -54,9 +54,7 @@ int main(int argc, char *argv[]) // NOLINT(bugprone-exception-escape)
     QCoreApplication app(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
     releaseEarlyLog(verboseRequested(arguments));
-    qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &message) {
-        libraryDiagnostic(message);
-    });
+    qInstallMessageHandler(libraryDiagnostic);
 
     QTextStream out(stdout, QIODevice::WriteOnly), err(stderr, QIODevice::WriteOnly);
     return runProgram(arguments, out, err);

@@ -140,7 +140,7 @@ void setLibraryDiagnostics(QTextStream *err)
     g_libraryDiagnostics = err;
 }
 
-void libraryDiagnostic(const QString &text)
+void libraryDiagnostic(QtMsgType, const QMessageLogContext &, const QString &text)
 {
     if (!g_libraryDiagnostics || text.isEmpty())
         return;

@@ -95,10 +95,11 @@ QString echoed(const QString &text);
 // "UL"/"DL", a link for people.
 QString linkShort(saiskuko::Link link);
 
-// The library's own diagnostics (its log lines) go to the error stream given
-// here, or nowhere (the default; --verbose shows them).
+// The library's own diagnostics (its log lines) go, through the message
+// handler libraryDiagnostic, to the error stream given here, or nowhere (the
+// default; --verbose shows them).
 class QTextStream;
 void setLibraryDiagnostics(QTextStream *err);
-void libraryDiagnostic(const QString &text);
+void libraryDiagnostic(QtMsgType, const QMessageLogContext &, const QString &text);
 
 #endif
