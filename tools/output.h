@@ -35,8 +35,7 @@ T valueOrBadInput(const saiskuko::Result<T> &result)
 // a key text only.
 struct Column
 {
-    QString header;
-    QString key;
+    QString header, key;
     bool right = false; // aligned right (numbers)
 };
 

@@ -40,10 +40,8 @@ QString optionCall(const ProgramOption &option)
     QStringList calls;
     for (const QString &name : option.allNames())
         calls << (name.size() == 1 ? QLatin1String("-") : QLatin1String("--")) + name;
-    QString call = calls.join(QLatin1String(", "));
-    if (option.value)
-        call += QLatin1Char(' ') + QLatin1String(option.value);
-    return call;
+    return calls.join(QLatin1String(", "))
+           + (option.value ? QLatin1Char(' ') + QLatin1String(option.value) : QString());
 }
 
 // "  CALL  HELP", a help of several lines indented under its first.
