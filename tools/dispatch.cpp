@@ -118,10 +118,10 @@ CommandOptions commandOptions(const QCommandLineParser &parser)
 void checkUse(const Command &command, const QStringList &arguments,
               const QCommandLineParser &parser)
 {
-    const QStringList words =
-        QString::fromLatin1(command.usage).split(QLatin1Char(' '), Qt::SkipEmptyParts);
-    const int least = words.size() - QString::fromLatin1(command.usage).count(QLatin1Char('['));
-    const bool repeats = QLatin1String(command.usage).endsWith(QLatin1String("..."));
+    const QString usage = QString::fromLatin1(command.usage);
+    const QStringList words = usage.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    const int least = words.size() - usage.count(QLatin1Char('['));
+    const bool repeats = usage.endsWith(QLatin1String("..."));
     if (arguments.size() < least || (!repeats && arguments.size() > words.size()))
         throw BadInput{QStringLiteral("%1 takes %2 (usage: saiskuko %3)")
                            .arg(QLatin1String(command.name),
