@@ -8,8 +8,7 @@
 
 namespace {
 
-constexpr double kCharWidth = 0.6;               // of the font size, for a monospace font
-constexpr double kLineHeight = kChartLineHeight; // one text line, one band row
+constexpr double kCharWidth = 0.6; // of the font size, for a monospace font
 constexpr double kMargin = 12;
 constexpr double kGap = 6; // between a label and what it labels
 constexpr double kPlotWidth = 960;
@@ -24,12 +23,11 @@ using saiskuko::Record;
 
 QString barTitle(const Band &band, BarKind kind, const Record &record)
 {
-    return band.technologyName() + QLatin1Char('\n') + band.name()
-           + QStringLiteral(" [%1]").arg(band.code()) + QLatin1Char('\n')
-           + QLatin1String(kDirections[int(kind)]) + QLatin1Char('\n')
-           + QStringLiteral("channels %1-%2").arg(record.firstChannel).arg(record.lastChannel)
-           + QLatin1Char('\n') + formatMHz(record.lowEdgeMHz) + QLatin1Char('-')
-           + formatMHz(record.highEdgeMHz) + QStringLiteral(" MHz");
+    return QStringLiteral("%1\n%2 [%3]\n%4\nchannels %5-%6\n%7-%8 MHz")
+        .arg(band.technologyName(), band.name(), QString::number(band.code()),
+             QLatin1String(kDirections[int(kind)]), QString::number(record.firstChannel),
+             QString::number(record.lastChannel), formatMHz(record.lowEdgeMHz),
+             formatMHz(record.highEdgeMHz));
 }
 
 // Whether a record shows in the window: its edges overlap it (a record of
@@ -74,9 +72,9 @@ QStringList markLines(double mhz, const QList<saiskuko::Technology> &techs)
     QStringList lines{formatMHz(mhz) + QStringLiteral(" MHz")};
     for (const saiskuko::SearchHit &hit : saiskuko::search(mhz)) {
         if (techs.isEmpty() || techs.contains(hit.band.technology()))
-            lines << hit.band.technologyName() + QLatin1Char(' ') + hit.band.name()
-                         + QLatin1Char(' ') + linkShort(hit.link) + QStringLiteral(" ch ")
-                         + QString::number(hit.channel);
+            lines << QStringLiteral("%1 %2 %3 ch %4")
+                         .arg(hit.band.technologyName(), hit.band.name(), linkShort(hit.link),
+                              QString::number(hit.channel));
     }
     return lines;
 }
@@ -84,7 +82,7 @@ QStringList markLines(double mhz, const QList<saiskuko::Technology> &techs)
 // A line of text at x, y.
 ChartBox textBox(double x, double y, const QString &text)
 {
-    return {x, y, chartTextWidth(text), kLineHeight};
+    return {x, y, chartTextWidth(text), kChartLineHeight};
 }
 
 // Mark labels sit above the plot, beside their line; a label that would run
@@ -96,7 +94,7 @@ void placeMarkLabels(QList<ChartMark> *marks, double top, double width)
         ChartBox box;
         for (const QString &line : mark.lines)
             box.width = std::max(box.width, chartTextWidth(line));
-        box.height = kLineHeight * mark.lines.size();
+        box.height = kChartLineHeight * mark.lines.size();
         box.x = mark.x + kGap;
         if (box.right() > width - kMargin)
             box.x = mark.x - kGap - box.width;
@@ -206,7 +204,7 @@ ChartLayout layoutChart(const ChartRequest &request)
         const QString label = tickLabel(v, step);
         layout.ticks.append({x, label, textBox(x - chartTextWidth(label) / 2, y, label)});
     }
-    y += kLineHeight + kGap;
+    y += kChartLineHeight + kGap;
     layout.plot.y = y;
 
     int group = 0;
@@ -214,17 +212,17 @@ ChartLayout layoutChart(const ChartRequest &request)
         if (group < layout.groups.size() && layout.groups[group].tech == row.band.technology()) {
             ChartGroup &g = layout.groups[group++];
             g.labelBox = textBox(kMargin, y, g.label);
-            y += kLineHeight;
+            y += kChartLineHeight;
         }
-        row.labelBox = ChartBox{kMargin, y, chartTextWidth(row.label), kLineHeight};
+        row.labelBox = textBox(kMargin, y, row.label);
         for (ChartBar &bar : row.bars) {
             const double from = layout.xOf(std::max(bar.lowMHz, layout.lowMHz));
             const double to = layout.xOf(std::min(bar.highMHz, layout.highMHz));
             // A record narrower than a pixel still shows.
-            bar.box = ChartBox{from, y + (kLineHeight - kBarHeight) / 2, std::max(to - from, 1.0),
-                               kBarHeight};
+            bar.box = ChartBox{from, y + (kChartLineHeight - kBarHeight) / 2,
+                               std::max(to - from, 1.0), kBarHeight};
         }
-        y += kLineHeight;
+        y += kChartLineHeight;
     }
     layout.plot.height = y - layout.plot.y;
 

@@ -15,8 +15,7 @@ enum class BarKind { Uplink, Downlink, TimeDivision };
 
 struct ChartRequest
 {
-    double lowMHz = 0;
-    double highMHz = 0;
+    double lowMHz = 0, highMHz = 0;
     QList<saiskuko::Technology> techs; // empty: every technology
     QList<double> marksMHz;
 };

@@ -1,8 +1,6 @@
 // The chart layout written out as an SVG document.
 #include "chartsvg.h"
 
-#include "output.h"
-
 #include <QtCore/QXmlStreamWriter>
 
 #include <initializer_list>
@@ -75,56 +73,6 @@ void writeRect(QXmlStreamWriter &w, const ChartBox &box, const char *cssClass)
                         {"class", QLatin1String(cssClass)}});
 }
 
-void writeAxis(QXmlStreamWriter &w, const ChartLayout &layout)
-{
-    for (const ChartTick &tick : layout.ticks) {
-        writeLine(w, tick.x, layout.plot.y, tick.x, layout.plot.bottom(), "grid");
-        writeText(w, tick.x, baselineOf(tick.labelBox), tick.label, nullptr, "middle");
-    }
-    writeLine(w, layout.plot.x, layout.plot.y, layout.plot.right(), layout.plot.y, "axis");
-    writeLine(w, layout.plot.x, layout.plot.bottom(), layout.plot.right(), layout.plot.bottom(),
-              "axis");
-}
-
-void writeRows(QXmlStreamWriter &w, const ChartLayout &layout)
-{
-    for (const ChartGroup &group : layout.groups)
-        writeText(w, group.labelBox.x, baselineOf(group.labelBox), group.label, "group");
-    for (const ChartRow &row : layout.rows) {
-        writeText(w, row.labelBox.x, baselineOf(row.labelBox), row.label);
-        for (const ChartBar &bar : row.bars) {
-            w.writeStartElement(QStringLiteral("rect"));
-            writeRect(w, bar.box, kKindClasses[int(bar.kind)]);
-            w.writeTextElement(QStringLiteral("title"), bar.title);
-            w.writeEndElement();
-        }
-    }
-}
-
-void writeMarks(QXmlStreamWriter &w, const ChartLayout &layout)
-{
-    for (const ChartMark &mark : layout.marks) {
-        writeLine(w, mark.x, mark.labelBox.y, mark.x, layout.plot.bottom(), "mark");
-        for (int i = 0; i < mark.lines.size(); ++i)
-            writeText(w, mark.labelBox.x, baselineOf(mark.labelBox, i), mark.lines[i], "marktext");
-    }
-}
-
-void writeLegend(QXmlStreamWriter &w, const ChartLayout &layout)
-{
-    double x = layout.legend.x;
-    for (int kind = 0; kind < 3; ++kind) {
-        w.writeEmptyElement(QStringLiteral("rect"));
-        writeRect(w, ChartBox{x, layout.legend.y, layout.legend.height, layout.legend.height},
-                  kKindClasses[kind]);
-        const QString text = QLatin1String(kKindLegends[kind]);
-        writeText(w, x + layout.legend.height + 4, baselineOf(layout.legend), text);
-        x += layout.legend.height + 4 + chartTextWidth(text) + 16;
-    }
-    writeText(w, layout.plot.right(), baselineOf(layout.legend), QStringLiteral("MHz"), nullptr,
-              "end");
-}
-
 } // namespace
 
 QByteArray chartSvg(const ChartLayout &layout)
@@ -146,10 +94,42 @@ QByteArray chartSvg(const ChartLayout &layout)
     writeAttributes(w, {{"width", QStringLiteral("100%")},
                         {"height", QStringLiteral("100%")},
                         {"fill", QStringLiteral("#fff")}});
-    writeAxis(w, layout);
-    writeRows(w, layout);
-    writeMarks(w, layout);
-    writeLegend(w, layout);
+
+    // The grid and axis, the rows and their bars, the marks, the legend.
+    for (const ChartTick &tick : layout.ticks) {
+        writeLine(w, tick.x, layout.plot.y, tick.x, layout.plot.bottom(), "grid");
+        writeText(w, tick.x, baselineOf(tick.labelBox), tick.label, nullptr, "middle");
+    }
+    writeLine(w, layout.plot.x, layout.plot.y, layout.plot.right(), layout.plot.y, "axis");
+    writeLine(w, layout.plot.x, layout.plot.bottom(), layout.plot.right(), layout.plot.bottom(),
+              "axis");
+    for (const ChartGroup &group : layout.groups)
+        writeText(w, group.labelBox.x, baselineOf(group.labelBox), group.label, "group");
+    for (const ChartRow &row : layout.rows) {
+        writeText(w, row.labelBox.x, baselineOf(row.labelBox), row.label);
+        for (const ChartBar &bar : row.bars) {
+            w.writeStartElement(QStringLiteral("rect"));
+            writeRect(w, bar.box, kKindClasses[int(bar.kind)]);
+            w.writeTextElement(QStringLiteral("title"), bar.title);
+            w.writeEndElement();
+        }
+    }
+    for (const ChartMark &mark : layout.marks) {
+        writeLine(w, mark.x, mark.labelBox.y, mark.x, layout.plot.bottom(), "mark");
+        for (int i = 0; i < mark.lines.size(); ++i)
+            writeText(w, mark.labelBox.x, baselineOf(mark.labelBox, i), mark.lines[i], "marktext");
+    }
+    double x = layout.legend.x;
+    for (int kind = 0; kind < 3; ++kind) {
+        w.writeEmptyElement(QStringLiteral("rect"));
+        writeRect(w, ChartBox{x, layout.legend.y, layout.legend.height, layout.legend.height},
+                  kKindClasses[kind]);
+        const QString text = QLatin1String(kKindLegends[kind]);
+        writeText(w, x + layout.legend.height + 4, baselineOf(layout.legend), text);
+        x += layout.legend.height + 4 + chartTextWidth(text) + 16;
+    }
+    writeText(w, layout.plot.right(), baselineOf(layout.legend), QStringLiteral("MHz"), nullptr,
+              "end");
     w.writeEndElement();
     w.writeEndDocument();
     return svg;

@@ -117,16 +117,16 @@ Cell linkCell(Link link)
 
 // A band's rows start with its title ("LTE-FDD - Band 1 (2100) [201]"), and
 // its JSON with the band.
-Outcome bandOutcome(const Band &band, const char *rowsKey)
+Outcome bandOutcome(const Band &band, const char *rowsKey,
+                    std::initializer_list<const char *> columnSpecs)
 {
-    Outcome out;
+    Outcome out(rowsKey, columnSpecs);
     out.heading = band.standard() + QStringLiteral(" [%1]").arg(band.code());
     out.json.insert(QStringLiteral("band"),
                     QJsonObject{{QStringLiteral("code"), band.code()},
                                 {QStringLiteral("technology"), band.technologyName()},
                                 {QStringLiteral("band"), band.name()},
                                 {QStringLiteral("duplex"), saiskuko::duplexName(band.duplex())}});
-    out.rowsKey = QLatin1String(rowsKey);
     return out;
 }
 
@@ -140,10 +140,8 @@ Row bandLinkCells(const Band &band, Link link)
 
 Outcome runTechs(const QStringList &, const CommandOptions &)
 {
-    Outcome out;
-    out.rowsKey = QStringLiteral("technologies");
-    out.columns = columns({">SLOT|slot", "TECH|name", ">BANDS|bands",
-                           ">INT BW HZ|defaultIntegrationBandwidthHz", "SHORT|shortForms"});
+    Outcome out("technologies", {">SLOT|slot", "TECH|name", ">BANDS|bands",
+                                 ">INT BW HZ|defaultIntegrationBandwidthHz", "SHORT|shortForms"});
     for (saiskuko::Technology tech : saiskuko::technologies())
         out.rows << Row{int(tech), saiskuko::technologyName(tech), saiskuko::bands(tech).size(),
                         saiskuko::defaultIntegrationBandwidthHz(tech),
@@ -154,12 +152,10 @@ Outcome runTechs(const QStringList &, const CommandOptions &)
 Outcome runBands(const QStringList &args, const CommandOptions &)
 {
     const saiskuko::Technology tech = valueOrBadInput(saiskuko::findTechnology(args[0]));
-    Outcome out;
+    Outcome out("bands", {">CODE|code", "BAND|band", "UL CHANNELS|uplink", "UL MHZ|",
+                          "DL CHANNELS|downlink", "DL MHZ|", ">RECORDS|records", "DUPLEX|duplex",
+                          "|technology", "|standard", "|global"});
     out.json.insert(QStringLiteral("technology"), saiskuko::technologyName(tech));
-    out.rowsKey = QStringLiteral("bands");
-    out.columns = columns({">CODE|code", "BAND|band", "UL CHANNELS|uplink", "UL MHZ|",
-                           "DL CHANNELS|downlink", "DL MHZ|", ">RECORDS|records", "DUPLEX|duplex",
-                           "|technology", "|standard", "|global"});
     for (const Band &band : saiskuko::bands(tech)) {
         Row row{band.code(), band.name()};
         for (Link link : {Link::Up, Link::Down}) {
@@ -188,10 +184,10 @@ Outcome runBands(const QStringList &args, const CommandOptions &)
 Outcome runBand(const QStringList &args, const CommandOptions &)
 {
     const Band band = valueOrBadInput(saiskuko::findBand(args[0]));
-    Outcome out = bandOutcome(band, "records");
-    out.columns =
-        columns({"DIR|direction", "CHANNELS|channels", "EDGES MHZ|edgesMHz", "FIRST MHZ|firstMHz",
-                 "LAST MHZ|lastMHz", "STEP MHZ|stepMHz", "DUPLEX|", ">PAIR OFFSET|pairOffset"});
+    Outcome out = bandOutcome(band, "records",
+                              {"DIR|direction", "CHANNELS|channels", "EDGES MHZ|edgesMHz",
+                               "FIRST MHZ|firstMHz", "LAST MHZ|lastMHz", "STEP MHZ|stepMHz",
+                               "DUPLEX|", ">PAIR OFFSET|pairOffset"});
     for (const Record &r : band.records()) {
         const saiskuko::Result<int> paired = band.pairedChannel(r.link, r.firstChannel);
         const int offset = (paired.value() - r.firstChannel) * (r.link == Link::Up ? -1 : 1);
@@ -231,8 +227,7 @@ Outcome runFreq(const QStringList &args, const CommandOptions &options)
     const QList<Link> links = linksFor(band, options);
     const bool paired = band.duplex() == Duplex::Fdd;
 
-    Outcome out = bandOutcome(band, "results");
-    out.columns = columns({"CHANNEL|channel"});
+    Outcome out = bandOutcome(band, "results", {"CHANNEL|channel"});
     QStringList words;
     for (Link link : links) {
         out.columns << Column{linkShort(link) + QLatin1String(" MHZ"), linkWord(link)};
@@ -259,8 +254,8 @@ Outcome runFreq(const QStringList &args, const CommandOptions &options)
     if (!any)
         out.noResult((channels.size() == 1 ? QStringLiteral("channel %1 is not").arg(channels[0])
                                            : QStringLiteral("none of these channels is"))
-                     + QLatin1String(" in ") + band.standard() + QLatin1String(" (")
-                     + words.join(QLatin1String(" or ")) + QLatin1Char(')'));
+                     + QStringLiteral(" in %1 (%2)")
+                           .arg(band.standard(), words.join(QLatin1String(" or "))));
     return out;
 }
 
@@ -282,11 +277,10 @@ Outcome runChannel(const QStringList &args, const CommandOptions &options)
     const QList<double> freqs = parseEach(args.mid(1), parseMHz);
     const QList<Link> links = linksFor(band, options);
 
-    Outcome out = bandOutcome(band, "results");
+    Outcome out = bandOutcome(band, "results", {"MHZ|mhz"});
     out.json.insert(QStringLiteral("preferred"),
                     options.preferred ? QJsonValue(*options.preferred) : QJsonValue());
     out.json.insert(QStringLiteral("nearest"), options.nearest);
-    out.columns = columns({"MHZ|mhz"});
     for (Link link : links) {
         out.columns << Column{linkShort(link) + QLatin1String(" CHANNEL"), linkWord(link)};
         if (options.nearest)
@@ -329,11 +323,10 @@ Outcome runChannel(const QStringList &args, const CommandOptions &options)
             if (options.nearest)
                 row << centre - freqs[i];
             if (!inside)
-                out.notes << QStringLiteral("%1 channel %2 (%3 MHz) lies outside the stated "
-                                            "edges of %4")
-                                 .arg(linkShort(link))
-                                 .arg(channel)
-                                 .arg(formatMHz(centre), band.standard());
+                out.notes << QStringLiteral(
+                                 "%1 channel %2 (%3 MHz) lies outside the stated edges of %4")
+                                 .arg(linkShort(link), QString::number(channel), formatMHz(centre),
+                                      band.standard());
         }
         out.rows << row;
     }
@@ -350,21 +343,19 @@ Outcome runChannel(const QStringList &args, const CommandOptions &options)
 // Every band and link holding each frequency, nearest channel first.
 Outcome runSearch(const QStringList &args, const CommandOptions &options)
 {
-    Outcome out;
-    out.rowsKey = QStringLiteral("results");
-    out.columns = columns({"MHZ|mhz", ">CODE|code", "TECH|technology", "BAND|band", "DIR|direction",
-                           ">CHANNEL|channel", "CHANNEL MHZ|channelMHz", "OFFSET MHZ|offsetMHz"});
+    Outcome out("results",
+                {"MHZ|mhz", ">CODE|code", "TECH|technology", "BAND|band", "DIR|direction",
+                 ">CHANNEL|channel", "CHANNEL MHZ|channelMHz", "OFFSET MHZ|offsetMHz"});
     const QList<double> freqs = parseEach(args, parseMHz);
     for (int i = 0; i < freqs.size(); ++i) {
         const int before = out.rows.size();
         for (const saiskuko::SearchHit &hit : saiskuko::search(freqs[i])) {
-            if (options.links.isEmpty() || options.links.contains(hit.link))
+            if (linksFor(hit.band, options).contains(hit.link))
                 out.rows << Row{{freqs[i], args[i].trimmed()}} + bandLinkCells(hit.band, hit.link)
                                 + Row{hit.channel, hit.channelMHz, hit.offsetMHz};
         }
         if (out.rows.size() == before)
-            out.notes << QLatin1String("no band holds ") + cut(args[i].trimmed())
-                             + QLatin1String(" MHz");
+            out.notes << QStringLiteral("no band holds %1 MHz").arg(cut(args[i].trimmed()));
     }
     if (out.rows.isEmpty())
         out.status = ExitNoResult;
@@ -373,10 +364,8 @@ Outcome runSearch(const QStringList &args, const CommandOptions &options)
 
 Outcome runWhich(const QStringList &args, const CommandOptions &options)
 {
-    Outcome out;
-    out.rowsKey = QStringLiteral("results");
-    out.columns = columns({">CHANNEL|channel", ">CODE|code", "TECH|technology", "BAND|band",
-                           "DIR|direction", "MHZ|mhz"});
+    Outcome out("results", {">CHANNEL|channel", ">CODE|code", "TECH|technology", "BAND|band",
+                            "DIR|direction", "MHZ|mhz"});
     for (int channel : parseEach(args, parseChannel)) {
         const int before = out.rows.size();
         for (const Band &band : saiskuko::bandsWithChannel(channel)) {
@@ -399,16 +388,15 @@ Outcome runChannels(const QStringList &args, const CommandOptions &options)
     const double low = parseMHz(args[1]);
     const double high = parseMHz(args[2]);
     if (low > high)
-        throw BadInput{QLatin1String("the window ") + cut(args[1].trimmed()) + QLatin1String(" to ")
-                       + cut(args[2].trimmed()) + QLatin1String(" MHz is empty: LOW exceeds HIGH")};
+        throw BadInput{QStringLiteral("the window %1 to %2 MHz is empty: LOW exceeds HIGH")
+                           .arg(cut(args[1].trimmed()), cut(args[2].trimmed()))};
 
-    Outcome out = bandOutcome(band, "runs");
-    out.heading += QLatin1String(", ") + formatMHz(low) + QLatin1String(" to ") + formatMHz(high)
-                   + QLatin1String(" MHz");
+    Outcome out = bandOutcome(band, "runs",
+                              {"DIR|direction", ">FIRST|first", ">LAST|last", ">COUNT|count",
+                               "FIRST MHZ|firstMHz", "LAST MHZ|lastMHz"});
+    out.heading += QStringLiteral(", %1 to %2 MHz").arg(formatMHz(low), formatMHz(high));
     out.json.insert(QStringLiteral("lowMHz"), low);
     out.json.insert(QStringLiteral("highMHz"), high);
-    out.columns = columns({"DIR|direction", ">FIRST|first", ">LAST|last", ">COUNT|count",
-                           "FIRST MHZ|firstMHz", "LAST MHZ|lastMHz"});
     for (Link link : linksFor(band, options)) {
         // Every record of the link, not only the first: E-GSM 900's uplink
         // has two channel ranges.
@@ -432,9 +420,8 @@ Outcome runChannels(const QStringList &args, const CommandOptions &options)
         }
     }
     if (out.rows.isEmpty())
-        out.noResult(QLatin1String("no channel of ") + band.standard()
-                     + QLatin1String(" lies between ") + cut(args[1].trimmed())
-                     + QLatin1String(" and ") + cut(args[2].trimmed()) + QLatin1String(" MHz"));
+        out.noResult(QStringLiteral("no channel of %1 lies between %2 and %3 MHz")
+                         .arg(band.standard(), cut(args[1].trimmed()), cut(args[2].trimmed())));
     return out;
 }
 
@@ -453,9 +440,7 @@ constexpr int kLastMode = 23;
 // Every mode code and the technologies its band table lists.
 Outcome runModes(const CommandOptions &options)
 {
-    Outcome out;
-    out.rowsKey = QStringLiteral("modes");
-    out.columns = columns({">MODE|mode", "TECHNOLOGIES|technologies"});
+    Outcome out("modes", {">MODE|mode", "TECHNOLOGIES|technologies"});
     for (int mode = kFirstMode; mode <= kLastMode; ++mode) {
         QStringList techs = ChStd::GetBandListByMode(mode, 0, options.link).techList;
         techs.removeDuplicates();
@@ -473,16 +458,15 @@ Outcome runTable(const QStringList &args, const CommandOptions &options)
     bool ok = false;
     const int mode = args[0].trimmed().toInt(&ok, 10);
     if (!ok || mode < kFirstMode || mode > kLastMode)
-        throw BadInput{QLatin1String("mode ") + echoed(args[0])
-                       + QLatin1String(" is not an instrument mode (1 to 23)")};
+        throw BadInput{
+            QStringLiteral("mode %1 is not an instrument mode (%2 to %3)")
+                .arg(echoed(args[0]), QString::number(kFirstMode), QString::number(kLastMode))};
     const stCHList list = ChStd::GetBandListByMode(mode, 0, options.link);
 
-    Outcome out;
+    Outcome out("rows",
+                {"TECH|technology", "BAND|band", "CHANNELS|channelRanges", "MHZ|frequencyRanges"});
     out.json.insert(QStringLiteral("mode"), mode);
     out.json.insert(QStringLiteral("link"), options.link);
-    out.rowsKey = QStringLiteral("rows");
-    out.columns =
-        columns({"TECH|technology", "BAND|band", "CHANNELS|channelRanges", "MHZ|frequencyRanges"});
     const int count =
         std::min({list.techList.size(), list.bandList.size(), list.chRangeList.size()});
     for (int i = 0; i < count; ++i) {
@@ -543,24 +527,22 @@ Outcome runChart(const QStringList &args, const CommandOptions &options)
 const QList<Command> &commands()
 {
     static const QList<Command> list{
-        {"techs", "", "technologies, band counts, integration bandwidths", 0, 0, "", runTechs},
-        {"bands", "TECH", "codes, channel and MHz ranges, records, duplex", 1, 1, "", runBands},
-        {"band", "BAND", "one band in detail: every record, raster, duplex, pairing", 1, 1, "",
-         runBand},
-        {"freq", "BAND CHANNEL...", "centre frequency of each channel, per direction", 2, -1,
-         "ul dl", runFreq},
-        {"channel", "BAND MHZ...", "channels centred on MHZ (or the nearest), per direction", 2, -1,
+        {"techs", "", "technologies, band counts, integration bandwidths", "", runTechs},
+        {"bands", "TECH", "codes, channel and MHz ranges, records, duplex", "", runBands},
+        {"band", "BAND", "one band in detail: every record, raster, duplex, pairing", "", runBand},
+        {"freq", "BAND CHANNEL...", "centre frequency of each channel, per direction", "ul dl",
+         runFreq},
+        {"channel", "BAND MHZ...", "channels centred on MHZ (or the nearest), per direction",
          "ul dl preferred nearest", runChannel},
-        {"search", "MHZ...", "bands holding MHZ, nearest channel first", 1, -1, "ul dl", runSearch},
-        {"channels", "BAND LOW HIGH", "channels of a band centred in LOW..HIGH MHz", 3, 3, "ul dl",
+        {"search", "MHZ...", "bands holding MHZ, nearest channel first", "ul dl", runSearch},
+        {"channels", "BAND LOW HIGH", "channels of a band centred in LOW..HIGH MHz", "ul dl",
          runChannels},
-        {"table", "[MODE]", "band table of an instrument mode; the modes without MODE", 0, 1,
-         "link", runTable},
-        {"which", "CHANNEL...", "every band and direction that has CHANNEL", 1, -1, "ul dl",
-         runWhich},
-        {"chart", "LOW HIGH", "an SVG picture of the bands between LOW and HIGH MHz", 2, 2,
+        {"table", "[MODE]", "band table of an instrument mode; the modes without MODE", "link",
+         runTable},
+        {"which", "CHANNEL...", "every band and direction that has CHANNEL", "ul dl", runWhich},
+        {"chart", "LOW HIGH", "an SVG picture of the bands between LOW and HIGH MHz",
          "tech mark output", runChart},
-        {"batch", "[FILE]", "one command per line of FILE (or standard input)", 0, 1, "", nullptr},
+        {"batch", "[FILE]", "one command per line of FILE (or standard input)", "", nullptr},
     };
     return list;
 }
@@ -570,24 +552,24 @@ const QList<ProgramOption> &programOptions()
     // clang-format off
     static const QList<ProgramOption> list{
         {"ul", nullptr, "only uplink (freq, channel, search, channels, which);\n"
-                        "default: every direction the band has", false, false},
-        {"dl", nullptr, "only downlink", false, false},
+                        "default: every direction the band has"},
+        {"dl", nullptr, "only downlink"},
         {"preferred", "N", "channel: show only channel N where the frequency has several\n"
-                            "(JSON still lists them all)", false, false},
+                            "(JSON still lists them all)"},
         {"nearest", nullptr, "channel: the nearest channel of each direction and its\n"
-                             "offset, for a frequency off the raster", false, false},
-        {"link", "0|1", "table: 0 downlink ranges (default), 1 uplink ranges", false, false},
-        {"tech", "T", "chart: only technology T (repeatable; short names as for bands)", false, false},
+                             "offset, for a frequency off the raster"},
+        {"link", "0|1", "table: 0 downlink ranges (default), 1 uplink ranges"},
+        {"tech", "T", "chart: only technology T (repeatable; short names as for bands)"},
         {"mark", "MHZ", "chart: a line at MHZ, labelled with the bands and channels\n"
-                        "there (repeatable)", false, false},
-        {"o output", "FILE", "chart: write the SVG to FILE instead of stdout", false, false},
-        {"json", nullptr, "JSON on stdout, full precision; in batch one document a line", true, false},
-        {"verbose", nullptr, "show the library's banner and diagnostics on stderr", true, false},
-        {"q quiet", nullptr, "no library diagnostics (the default)", true, false},
-        {"h help", nullptr, "this text", true, false},
-        {"v version", nullptr, "the library's version", true, false},
-        {"man", nullptr, "", true, true},
-        {"completion", nullptr, "", true, true},
+                        "there (repeatable)"},
+        {"o output", "FILE", "chart: write the SVG to FILE instead of stdout"},
+        {"json", nullptr, "JSON on stdout, full precision; in batch one document a line", true},
+        {"verbose", nullptr, "show the library's banner and diagnostics on stderr", true},
+        {"q quiet", nullptr, "no library diagnostics (the default)", true},
+        {"h help", nullptr, "this text", true},
+        {"v version", nullptr, "the library's version", true},
+        {"man", nullptr, "", true},
+        {"completion", nullptr, "", true},
     };
     // clang-format on
     return list;

@@ -27,9 +27,8 @@ struct ProgramOption
 {
     const char *names; // blank-separated, long name last
     const char *value; // the value's name, or nullptr for a switch
-    const char *help;
-    bool common;
-    bool hidden; // build-time outputs, not for people
+    const char *help;  // none for build-time outputs, not for people
+    bool common = false;
 
     QStringList allNames() const { return QString::fromLatin1(names).split(QLatin1Char(' ')); }
 };
@@ -38,10 +37,8 @@ const QList<ProgramOption> &programOptions();
 struct Command
 {
     const char *name;
-    const char *usage; // arguments, for messages and help
+    const char *usage; // arguments: [X] optional, a last X... repeatable
     const char *summary;
-    int minArgs;
-    int maxArgs;         // -1: no limit
     const char *options; // the options it takes besides the common ones, blank-separated
     // Null for the command the program runs itself (batch).
     Outcome (*run)(const QStringList &args, const CommandOptions &options);

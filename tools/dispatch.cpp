@@ -48,8 +48,7 @@ QString unmarked(const QString &argument)
 // also the options passed to each line, and JSON one document a line.
 struct Run
 {
-    QTextStream &out;
-    QTextStream &err;
+    QTextStream &out, &err;
     QString prefix;
     QStringList inherited;
     bool batch;
@@ -114,26 +113,29 @@ CommandOptions commandOptions(const QCommandLineParser &parser)
     return options;
 }
 
-// What is wrong with the number of arguments or the options given to a
-// command, or an empty string.
-QString misuseOf(const Command &command, const QStringList &arguments,
-                 const QCommandLineParser &parser)
+// Throws BadInput where the number of arguments or the options given do not
+// fit the command.
+void checkUse(const Command &command, const QStringList &arguments,
+              const QCommandLineParser &parser)
 {
-    if (arguments.size() < command.minArgs
-        || (command.maxArgs >= 0 && arguments.size() > command.maxArgs))
-        return QStringLiteral("%1 takes %2 (usage: saiskuko %3)")
-            .arg(QLatin1String(command.name),
-                 command.maxArgs == 0                 ? QStringLiteral("no arguments")
-                 : arguments.size() < command.minArgs ? QStringLiteral("more arguments")
-                                                      : QStringLiteral("fewer arguments"),
-                 command.call());
+    const QString usage = QString::fromLatin1(command.usage);
+    const QStringList words = usage.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    const int least = words.size() - usage.count(QLatin1Char('['));
+    const bool repeats = usage.endsWith(QLatin1String("..."));
+    if (arguments.size() < least || (!repeats && arguments.size() > words.size()))
+        throw BadInput{QStringLiteral("%1 takes %2 (usage: saiskuko %3)")
+                           .arg(QLatin1String(command.name),
+                                words.isEmpty()            ? QStringLiteral("no arguments")
+                                : arguments.size() < least ? QStringLiteral("more arguments")
+                                                           : QStringLiteral("fewer arguments"),
+                                command.call())};
     const QStringList takes = QString::fromLatin1(command.options).split(QLatin1Char(' '));
     for (const ProgramOption &entry : programOptions()) {
         const QString option = entry.allNames().constLast();
         if (!entry.common && parser.isSet(option) && !takes.contains(option))
-            return QStringLiteral("%1 does not take --%2").arg(QLatin1String(command.name), option);
+            throw BadInput{
+                QStringLiteral("%1 does not take --%2").arg(QLatin1String(command.name), option)};
     }
-    return {};
 }
 
 // One command line, without the program's name.
@@ -187,22 +189,19 @@ int runWords(const QStringList &words, const Run &run)
         return fail(QLatin1String("unknown command ") + echoed(name) + QLatin1String("; commands: ")
                     + names.join(QLatin1String(", ")));
     }
-    const QString misuse = misuseOf(*command, arguments, parser);
-    if (!misuse.isEmpty())
-        return fail(misuse);
-    if (!command->run) {
+    try {
+        checkUse(*command, arguments, parser);
+        if (command->run)
+            return report(run, json, name, arguments,
+                          command->run(arguments, commandOptions(parser)));
         if (run.batch)
-            return fail(QStringLiteral("batch does not run within batch"));
+            throw BadInput{QStringLiteral("batch does not run within batch")};
         QStringList passed;
         for (const char *common : {"json", "verbose"}) {
             if (isSet(common))
                 passed << QLatin1String("--") + QLatin1String(common);
         }
         return runBatch(arguments.value(0), {run.out, run.err, run.prefix, passed, true});
-    }
-
-    try {
-        return report(run, json, name, arguments, command->run(arguments, commandOptions(parser)));
     } catch (const BadInput &error) {
         return fail(error.message);
     }
@@ -275,9 +274,6 @@ int runProgram(const QStringList &arguments, QTextStream &out, QTextStream &err)
 
 bool verboseRequested(const QStringList &arguments)
 {
-    for (int i = 1; i < arguments.size() && arguments[i] != QLatin1String("--"); ++i) {
-        if (arguments[i] == QLatin1String("--verbose"))
-            return true;
-    }
-    return false;
+    const int end = arguments.indexOf(QStringLiteral("--"), 1);
+    return arguments.mid(1, end < 0 ? -1 : end - 1).contains(QStringLiteral("--verbose"));
 }

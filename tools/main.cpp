@@ -4,7 +4,6 @@
 #include "program.h"
 
 #include <QtCore/QCoreApplication>
-#include <QtCore/QFile>
 #include <QtCore/QTextStream>
 
 #include <cstdio>
@@ -53,16 +52,10 @@ void releaseEarlyLog(bool)
 int main(int argc, char *argv[]) // NOLINT(bugprone-exception-escape)
 {
     QCoreApplication app(argc, argv);
-    QCoreApplication::setApplicationName(QStringLiteral("saiskuko"));
     const QStringList arguments = QCoreApplication::arguments();
     releaseEarlyLog(verboseRequested(arguments));
-    qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &message) {
-        libraryDiagnostic(message);
-    });
+    qInstallMessageHandler(libraryDiagnostic);
 
-    QFile standardOutput, standardError;
-    standardOutput.open(stdout, QIODevice::WriteOnly);
-    standardError.open(stderr, QIODevice::WriteOnly);
-    QTextStream out(&standardOutput), err(&standardError);
+    QTextStream out(stdout, QIODevice::WriteOnly), err(stderr, QIODevice::WriteOnly);
     return runProgram(arguments, out, err);
 }

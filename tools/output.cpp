@@ -23,20 +23,18 @@ QString cellText(const Cell &cell)
 // JSON only.
 QString table(const QList<Column> &columns, const QList<Row> &rows)
 {
+    Row header;
+    for (const Column &column : columns)
+        header << Cell(QJsonValue(), column.header);
     QVector<int> widths(columns.size());
     QList<QList<QStringList>> cells; // every row's cells as lines, the header first
-    const auto add = [&](int c, const QString &text) {
-        if (c == 0)
-            cells << QList<QStringList>();
-        cells.last() << text.split(QLatin1Char('\n'));
-        for (const QString &line : cells.last().last())
-            widths[c] = std::max(widths[c], int(line.size()));
-    };
-    for (int c = 0; c < columns.size(); ++c)
-        add(c, columns[c].header);
-    for (const Row &row : rows) {
-        for (int c = 0; c < columns.size(); ++c)
-            add(c, cellText(row[c]));
+    for (const Row &row : QList<Row>{header} + rows) {
+        cells << QList<QStringList>();
+        for (int c = 0; c < columns.size(); ++c) {
+            cells.last() << cellText(row[c]).split(QLatin1Char('\n'));
+            for (const QString &line : cells.last().last())
+                widths[c] = std::max(widths[c], int(line.size()));
+        }
     }
     QString out;
     for (const QList<QStringList> &row : cells) {
@@ -142,7 +140,7 @@ void setLibraryDiagnostics(QTextStream *err)
     g_libraryDiagnostics = err;
 }
 
-void libraryDiagnostic(const QString &text)
+void libraryDiagnostic(QtMsgType, const QMessageLogContext &, const QString &text)
 {
     if (!g_libraryDiagnostics || text.isEmpty())
         return;

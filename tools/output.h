@@ -35,8 +35,7 @@ T valueOrBadInput(const saiskuko::Result<T> &result)
 // a key text only.
 struct Column
 {
-    QString header;
-    QString key;
+    QString header, key;
     bool right = false; // aligned right (numbers)
 };
 
@@ -62,6 +61,12 @@ using Row = QList<Cell>;
 // explanations) for stderr.
 struct Outcome
 {
+    Outcome() = default;
+    // Rows kept under rowsKey, in columns written as columns() reads them.
+    Outcome(const char *rowsKey, std::initializer_list<const char *> columnSpecs)
+        : rowsKey(QLatin1String(rowsKey)), columns(::columns(columnSpecs))
+    {}
+
     QString heading;  // the line above the table; without columns, the whole text
     QJsonObject json; // the result's members besides the rows
     QString rowsKey;  // the member holding the rows
@@ -89,10 +94,11 @@ QString echoed(const QString &text);
 // "UL"/"DL", a link for people.
 QString linkShort(saiskuko::Link link);
 
-// The library's own diagnostics (its log lines) go to the error stream given
-// here, or nowhere (the default; --verbose shows them).
+// The library's own diagnostics (its log lines) go, through the message
+// handler libraryDiagnostic, to the error stream given here, or nowhere (the
+// default; --verbose shows them).
 class QTextStream;
 void setLibraryDiagnostics(QTextStream *err);
-void libraryDiagnostic(const QString &text);
+void libraryDiagnostic(QtMsgType, const QMessageLogContext &, const QString &text);
 
 #endif

@@ -31,7 +31,6 @@ const char *const kExit =
     "0 found, 1 valid query without result (said on stderr; --json still prints the\n"
     "document), 2 bad input (one line on stderr), 3 the answer could not be written.\n"
     "batch: 0 when every line succeeded, else the worst status of a line.\n";
-// clang-format on
 
 const char *const kSummary = "Looks up the band plan of CDMA, GSM, LTE, TD-SCDMA, WCDMA, WiMAX "
                              "and 5G NR:\nchannels, centre frequencies and bands.\n";
@@ -41,10 +40,8 @@ QString optionCall(const ProgramOption &option)
     QStringList calls;
     for (const QString &name : option.allNames())
         calls << (name.size() == 1 ? QLatin1String("-") : QLatin1String("--")) + name;
-    QString call = calls.join(QLatin1String(", "));
-    if (option.value)
-        call += QLatin1Char(' ') + QLatin1String(option.value);
-    return call;
+    return calls.join(QLatin1String(", "))
+           + (option.value ? QLatin1Char(' ') + QLatin1String(option.value) : QString());
 }
 
 // "  CALL  HELP", a help of several lines indented under its first.
@@ -55,30 +52,19 @@ QString entry(const QString &call, int width, const char *help)
            + QString::fromLatin1(help).replace(QLatin1Char('\n'), indent) + QLatin1Char('\n');
 }
 
-QString commandsText()
-{
-    QString text;
-    for (const Command &command : commands())
-        text += entry(command.call(), 22, command.summary);
-    return text;
-}
-
-QString optionsText()
-{
-    QString text;
-    for (const ProgramOption &option : programOptions()) {
-        if (!option.hidden)
-            text += entry(optionCall(option), 18, option.help);
-    }
-    return text;
-}
-
 // Title and body of each section after the summary.
 QList<std::pair<QString, QString>> sections()
 {
-    return {{QStringLiteral("Commands"), commandsText()},
+    QString commandList, optionList;
+    for (const Command &command : commands())
+        commandList += entry(command.call(), 22, command.summary);
+    for (const ProgramOption &option : programOptions()) {
+        if (*option.help)
+            optionList += entry(optionCall(option), 18, option.help);
+    }
+    return {{QStringLiteral("Commands"), commandList},
             {QStringLiteral("Naming a band (one argument)"), QLatin1String(kNaming)},
-            {QStringLiteral("Options"), optionsText()},
+            {QStringLiteral("Options"), optionList},
             {QStringLiteral("Notes"), QLatin1String(kNotes)},
             {QStringLiteral("Exit status"), QLatin1String(kExit)}};
 }
@@ -120,7 +106,7 @@ QString completionText()
         commandNames << QLatin1String(command.name);
     for (const ProgramOption &option : programOptions()) {
         for (const QString &name : option.allNames()) {
-            if (!option.hidden && name.size() > 1)
+            if (*option.help && name.size() > 1)
                 optionNames << QLatin1String("--") + name;
         }
     }
