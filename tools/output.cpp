@@ -103,29 +103,6 @@ void Outcome::noResult(const QString &note)
     notes << note;
 }
 
-QString formatMHz(double mhz)
-{
-    QString s = QString::number(mhz, 'f', 6);
-    while (s.endsWith(QLatin1Char('0')))
-        s.chop(1);
-    if (s.endsWith(QLatin1Char('.')))
-        s.chop(1);
-    if (s == QLatin1String("-0"))
-        s = QStringLiteral("0");
-    return s;
-}
-
-QString cut(const QString &text)
-{
-    constexpr int kLongest = 40;
-    return text.size() > kLongest ? text.left(kLongest) + QLatin1String("...") : text;
-}
-
-QString echoed(const QString &text)
-{
-    return QLatin1Char('"') + cut(text) + QLatin1Char('"');
-}
-
 QString linkShort(saiskuko::Link link)
 {
     return link == saiskuko::Link::Up ? QStringLiteral("UL") : QStringLiteral("DL");

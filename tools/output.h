@@ -81,15 +81,10 @@ struct Outcome
     void noResult(const QString &note);
 };
 
-// MHz for people: rounded to 1 Hz, trailing zeros dropped. Every raster of
-// the band plan is a whole number of Hz, so this shows channel frequencies
-// exactly while hiding the binary noise of the formulas (2140.2000000000003).
-QString formatMHz(double mhz);
-
-// An argument echoed in a message: cut to a length a message can carry, and
-// quoted (echoed).
-QString cut(const QString &text);
-QString echoed(const QString &text);
+// Frequencies and echoed arguments as the library's own messages show them.
+using saiskuko::cut;
+using saiskuko::echoed;
+using saiskuko::formatMHz;
 
 // "UL"/"DL", a link for people.
 QString linkShort(saiskuko::Link link);

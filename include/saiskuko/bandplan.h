@@ -283,6 +283,17 @@ SAISKUKO_EXPORT QList<Band> bands(Technology technology);
 /// "FDD", "TDD", "SDL" or "SUL".
 SAISKUKO_EXPORT QString duplexName(Duplex duplex);
 
+/// A frequency as people read it: MHz rounded to 1 Hz, trailing zeros
+/// dropped ("2140", "1842.5", "3799.995"). Every raster of the band plan is a
+/// whole number of hertz, so a channel's centre prints exactly, and the text
+/// reads back to the same channel through Band::channelsAt().
+SAISKUKO_EXPORT QString formatMHz(double mhz);
+/// Text a user gave, as the messages of this API show it: cut to 40
+/// characters (then "...").
+SAISKUKO_EXPORT QString cut(QStringView text);
+/// cut() in double quotes: how a message echoes an argument.
+SAISKUKO_EXPORT QString echoed(QStringView text);
+
 /// Every band and link holding @p mhz, nearest channel first: one hit per
 /// band and link, both links of a TDD band, real channels only, "Band Global"
 /// left out. Empty for a frequency no band holds, NaN or infinite.

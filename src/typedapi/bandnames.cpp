@@ -19,18 +19,31 @@ QList<int> techSlots()
     return slotList;
 }
 
-QString cut(const QString &text)
+} // namespace typed
+
+QString cut(QStringView text)
 {
     constexpr int kLongest = 40;
-    return text.size() > kLongest ? text.left(kLongest) + QLatin1String("...") : text;
+    return text.size() > kLongest ? text.left(kLongest).toString() + QLatin1String("...")
+                                  : text.toString();
 }
 
-QString echoed(const QString &text)
+QString echoed(QStringView text)
 {
     return QLatin1Char('"') + cut(text) + QLatin1Char('"');
 }
 
-} // namespace typed
+QString formatMHz(double mhz)
+{
+    QString text = QString::number(mhz, 'f', 6);
+    while (text.endsWith(QLatin1Char('0')))
+        text.chop(1);
+    if (text.endsWith(QLatin1Char('.')))
+        text.chop(1);
+    if (text == QLatin1String("-0"))
+        text = QStringLiteral("0");
+    return text;
+}
 
 namespace {
 

@@ -40,16 +40,6 @@ double centreOf(const stSubBand &r, qint64 channel)
     return recordFreq(r, int(channel));
 }
 
-QString mhzText(double mhz)
-{
-    QString text = QString::number(mhz, 'f', 6);
-    while (text.endsWith(QLatin1Char('0')))
-        text.chop(1);
-    if (text.endsWith(QLatin1Char('.')))
-        text.chop(1);
-    return text;
-}
-
 // "a downlink", "an uplink".
 QString withArticle(Link link)
 {
@@ -271,13 +261,13 @@ Q_NEVER_INLINE Error noChannelAt(const Band &band, Link link, double mhz)
         BandAccess::tech(band), BandAccess::slot(band), *data, link, duplex,
         [&](const stSubBand &r, const RecordSearch &facts) { centreSpan(r, facts, &low, &high); });
     if (!(mhz >= low - kSameCentreMHz && mhz <= high + kSameCentreMHz))
-        return failure(
-            ErrorCode::FrequencyNotInBand,
-            QStringLiteral("%1 MHz lies outside the %2 channels of %3 (%4 to %5 MHz)")
-                .arg(mhzText(mhz), linkWord(link), band.standard(), mhzText(low), mhzText(high)));
+        return failure(ErrorCode::FrequencyNotInBand,
+                       QStringLiteral("%1 MHz lies outside the %2 channels of %3 (%4 to %5 MHz)")
+                           .arg(formatMHz(mhz), linkWord(link), band.standard(), formatMHz(low),
+                                formatMHz(high)));
     return failure(ErrorCode::NotAChannelCentre,
                    QStringLiteral("%1 MHz is not %2 channel centre of %3")
-                       .arg(mhzText(mhz), withArticle(link), band.standard()));
+                       .arg(formatMHz(mhz), withArticle(link), band.standard()));
 }
 
 } // namespace
@@ -434,9 +424,10 @@ Result<int> Band::nearestChannel(Link link, double mhz) const
         return int(best.channel);
     if (!anyRecord(*data, link, duplex, [](const stSubBand &) { return true; }))
         return linkNotServed(*this, link);
-    return failure(ErrorCode::FrequencyNotInBand,
-                   QStringLiteral("%1 MHz lies outside the %2 range of %3 (%4 to %5 MHz)")
-                       .arg(mhzText(mhz), linkWord(link), standard(), mhzText(low), mhzText(high)));
+    return failure(
+        ErrorCode::FrequencyNotInBand,
+        QStringLiteral("%1 MHz lies outside the %2 range of %3 (%4 to %5 MHz)")
+            .arg(formatMHz(mhz), linkWord(link), standard(), formatMHz(low), formatMHz(high)));
 }
 
 Result<int> Band::pairedChannel(Link link, int channel) const

@@ -94,10 +94,6 @@ bool anyRecord(const ChBand &band, Link link, Duplex duplex, Visit visit)
 // Technology slots in use, in slot order.
 QList<int> techSlots();
 
-// An argument echoed in a message: cut to 40 characters (then "..."), quoted.
-QString cut(const QString &text);
-QString echoed(const QString &text);
-
 inline Error failure(ErrorCode code, const QString &message)
 {
     return Error{code, message};
