@@ -115,14 +115,15 @@ std::vector<std::function<QString()>> allQueries()
 QString typedAnswers(int code, const QString &standard, int l, int ch, double mhz)
 {
     using namespace saiskuko;
-    const Band b = bandByCode(code).value();
+    // Found by name or by code, so that threads race to build either index first.
+    const Band b = (code % 2 ? findBand(standard) : bandByCode(code)).value();
     const Link link = Link(l);
     const QList<double> centres = b.frequencies(link, ch);
     const QList<int> at = b.channelsAt(link, mhz).valueOr({-1});
     QString hits;
     for (const SearchHit &h : search(mhz))
         hits += nums({h.band.code(), int(h.link), h.channel, h.offsetMHz});
-    return nums({findBand(standard).value().code(), findBand(b.shortName()).value().code(),
+    return nums({bandByCode(code).value().code(), findBand(b.shortName()).value().code(),
                  int(b.duplex()), int(b.links().size()), int(b.records(link).size()),
                  b.withinEdges(link, mhz), b.frequency(link, ch).valueOr(-1.0),
                  centres.value(0, -1.0), at.value(0), int(at.size()),
@@ -130,6 +131,37 @@ QString typedAnswers(int code, const QString &standard, int l, int ch, double mh
                  b.pairedChannel(link, ch).valueOr(-1), int(bandsWithChannel(ch).size()),
                  int(findTechnology(b.technologyName()).value())})
            + hits + b.frequency(link, INT_MIN).error().message;
+}
+
+// Asks every query `rounds` times from each of eight threads started together,
+// each elsewhere in the list; then asks expected() for the answers of one pass
+// alone and returns the first answer a thread got otherwise.
+QString firstWrongAnswer(const std::vector<std::function<QString()>> &queries, int rounds,
+                         const std::function<QStringList()> &expected)
+{
+    constexpr int kThreads = 8;
+    const int n = int(queries.size());
+    std::vector<QStringList> answers(kThreads);
+    std::atomic<int> waiting{kThreads};
+    std::vector<std::thread> threads;
+    for (int t = 0; t < kThreads; ++t)
+        threads.emplace_back([&, t] {
+            for (--waiting; waiting > 0;)
+                std::this_thread::yield();
+            for (int k = 0; k < rounds * n; ++k)
+                answers[t] << queries[(k + t * n / kThreads) % n]();
+        });
+    for (std::thread &thread : threads)
+        thread.join();
+    const QStringList alone = expected();
+    for (int t = 0; t < kThreads; ++t)
+        for (int k = 0; k < rounds * n; ++k)
+            if (const int i = (k + t * n / kThreads) % n; answers[t][k] != alone[i])
+                return str("thread %1, query %2: %3 instead of %4")
+                    .arg(t)
+                    .arg(i)
+                    .arg(answers[t][k], alone[i]);
+    return {};
 }
 
 #if SAISKUKO_COUNT_ALLOCATIONS
@@ -163,14 +195,9 @@ private slots:
 #else
         const ChBandStore &s = G_CHSTD;
         const auto at = [&](const char *tech, const char *band, int link, int ch) {
-            const bool known = s.TechIndexMap.contains(str(tech));
-            return Place{s,
-                         str(tech),
-                         str(band),
-                         known ? s.GetEnumulator(str(tech), str(band)) : 0,
-                         link,
-                         ch,
-                         s.GetFreq(str(tech), str(band), link, ch)};
+            const QString t = str(tech), b = str(band);
+            const int code = s.TechIndexMap.contains(t) ? s.GetEnumulator(t, b) : 0;
+            return Place{s, t, b, code, link, ch, s.GetFreq(t, b, link, ch)};
         };
         for (const Place &p :
              {at("LTE-FDD", "Band 1 (2100)", 0, 300), at("LTE-FDD", "Band 1 (2100)", 1, 18001),
@@ -219,62 +246,26 @@ private slots:
 
 void TestConcurrency::typedReadersAgreeFromCold()
 {
-    struct Ask
-    {
-        int code, link, ch;
-        double mhz;
-        QString standard;
-    };
-    std::vector<Ask> asks; // read from the compatible interface: the typed API stays cold
+    std::vector<std::function<QString()>>
+        asks; // read from the compatible interface: the typed API stays cold
     forEachBand(G_CHSTD, [&](const ChTechnology &t, const ChBand &band, int code) {
         for (const int link : {0, 1}) {
             const int ch = G_CHSTD.GetStartChannelNo(code, link);
-            asks.push_back({code, link, ch, G_CHSTD.GetFreq(code, link, ch),
-                            t.TechName + str(" - ") + band.BandName});
+            const double mhz = G_CHSTD.GetFreq(code, link, ch);
+            const QString standard = t.TechName + str(" - ") + band.BandName;
+            asks.push_back([=] { return typedAnswers(code, standard, link, ch, mhz); });
         }
     });
-    const QString band7 =
-        QString::number(G_CHSTD.GetEnumulator(str("LTE-FDD"), str("Band 7 (2600)")));
     const QtMessageHandler oldHandler = qInstallMessageHandler(countLine);
     g_warnings = g_debugs = 0;
-
-    constexpr int kThreads = 8;
-    const int n = int(asks.size());
-    std::vector<QStringList> answers(kThreads, QStringList());
-    std::atomic<int> waiting{kThreads};
-    std::vector<std::thread> threads;
-    for (int t = 0; t < kThreads; ++t) {
-        threads.emplace_back([&, t] {
-            for (--waiting; waiting > 0;) // all start together
-                std::this_thread::yield();
-            if (t % 2) // half of them find their first band by name
-                answers[t] << QString::number(saiskuko::findBand(str("B7")).value().code());
-            for (int k = 0; k < n; ++k) {
-                const Ask &a = asks[(k + t * n / kThreads) % n];
-                answers[t] << typedAnswers(a.code, a.standard, a.link, a.ch, a.mhz);
-            }
-        });
-    }
-    for (std::thread &thread : threads)
-        thread.join();
+    const QString wrong = firstWrongAnswer(asks, 1, [&] {
+        QStringList alone;
+        for (const auto &ask : asks)
+            alone << ask();
+        return alone;
+    });
     qInstallMessageHandler(oldHandler);
-
-    QStringList alone;
-    for (const Ask &a : asks)
-        alone << typedAnswers(a.code, a.standard, a.link, a.ch, a.mhz);
-    for (int t = 0; t < kThreads; ++t) {
-        const int first = t % 2;
-        if (first)
-            QCOMPARE(answers[t][0], band7);
-        for (int k = 0; k < n; ++k) {
-            const int i = (k + t * n / kThreads) % n;
-            if (answers[t][first + k] != alone[i])
-                QFAIL(qPrintable(str("thread %1, band %2: %3 instead of %4")
-                                     .arg(t)
-                                     .arg(asks[i].code)
-                                     .arg(answers[t][first + k], alone[i])));
-        }
-    }
+    QVERIFY2(wrong.isEmpty(), qPrintable(wrong));
     QCOMPARE(g_warnings.load() + g_debugs.load(), 0); // the typed API writes no log line
 }
 
@@ -302,31 +293,15 @@ void TestConcurrency::readersAgree()
         }
     }
     g_warnings = g_debugs = g_printed = 0;
-
-    constexpr int kThreads = 8, kRounds = 12;
-    const int n = int(queries.size());
-    QString mismatch[kThreads]; // the first wrong answer each thread saw
-    std::vector<std::thread> threads;
-    for (int t = 0; t < kThreads; ++t) {
-        threads.emplace_back([&, t] {
-            for (int k = 0; k < kRounds * n && mismatch[t].isEmpty(); ++k) {
-                const int i = (k + t * n / kThreads) % n; // each thread elsewhere in the list
-                const QString answer = queries[i]();
-                if (answer != expected[i])
-                    mismatch[t] = str("query %1: %2 instead of %3").arg(i).arg(answer, expected[i]);
-            }
-        });
-    }
-    for (std::thread &thread : threads)
-        thread.join();
+    constexpr int kRounds = 12;
+    const QString wrong = firstWrongAnswer(queries, kRounds, [&] { return expected; });
     qInstallMessageHandler(oldHandler);
     std::cout.rdbuf(oldCout);
 
-    for (const QString &wrong : mismatch)
-        QVERIFY2(wrong.isEmpty(), qPrintable(wrong));
-    QVERIFY(n > 300 && warnings > 0 && debugs > 0);
-    QCOMPARE(g_warnings.load(), kThreads * kRounds * warnings);
-    QCOMPARE(g_debugs.load(), kThreads * kRounds * debugs);
+    QVERIFY2(wrong.isEmpty(), qPrintable(wrong));
+    QVERIFY(queries.size() > 300 && warnings > 0 && debugs > 0);
+    QCOMPARE(g_warnings.load(), 8 * kRounds * warnings);
+    QCOMPARE(g_debugs.load(), 8 * kRounds * debugs);
     QCOMPARE(g_printed.load(), 0);
 }
 

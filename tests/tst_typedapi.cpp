@@ -152,64 +152,42 @@ private slots:
         QCOMPARE(log.take(), QStringList());
     }
 
+    // Each row: what the names read as (a channel standard or "!" and the error), then the names.
     void names_data()
     {
         QTest::addColumn<QString>("text");
         QTest::addColumn<QString>("expected");
         const char *const rows[][2] = {
-            {"201", "LTE-FDD - Band 1 (2100)"},
-            {" 0201 ", "LTE-FDD - Band 1 (2100)"},
-            {"LTE-FDD - Band 1 (2100)", "LTE-FDD - Band 1 (2100)"},
-            {"5G NR - Band n78 (TD 3500)", "5G NR - Band n78 (TD 3500)"},
-            {"LTE-FDD - band 1 (2100)", "!UnknownBand"},
-            {"LTE - Band 1 (2100)", "!UnknownTechnology"},
-            {"LTE:1", "LTE-FDD - Band 1 (2100)"},
-            {"lte:1", "LTE-FDD - Band 1 (2100)"},
-            {"FDD:1", "LTE-FDD - Band 1 (2100)"},
-            {"lte-fdd:B1", "LTE-FDD - Band 1 (2100)"},
-            {"LTE:band1", "LTE-FDD - Band 1 (2100)"},
-            {"B1", "LTE-FDD - Band 1 (2100)"},
-            {"b1", "LTE-FDD - Band 1 (2100)"},
-            {"Band1", "LTE-FDD - Band 1 (2100)"},
-            {"LTE:07", "LTE-FDD - Band 7 (2600)"},
-            {"LTE:33", "LTE-TDD - Band 33 (1900)"},
-            {"NR:n78", "5G NR - Band n78 (TD 3500)"},
-            {"5g:78", "5G NR - Band n78 (TD 3500)"},
-            {"NR:n078", "5G NR - Band n78 (TD 3500)"},
-            {"N78", "5G NR - Band n78 (TD 3500)"},
-            {"n78 ", "5G NR - Band n78 (TD 3500)"},
-            {"bc0", "CDMA - Band 0 (800)"},
-            {"CDMA:bc10", "CDMA - Band 10 (2nd 800)"},
-            {"WCDMA:VIII", "WCDMA - Band 8 (900-General)"},
-            {"umts:i", "WCDMA - Band 1 (2100-General)"},
-            {"WCDMA:IV", "!AmbiguousName"},
-            {"WCDMA:2-additional", "WCDMA - Band 2 (1900-Additional)"},
-            {"WCDMA:21-3500", "WCDMA - Band 21 (3500-General)"},
-            {"GSM:dcs1800", "GSM - DCS 1800"},
-            {"GSM:dcs", "GSM - DCS 1800"},
-            {"GSM:e900", "GSM - E-GSM 900"},
-            {"GSM:r900china", "GSM - R-GSM 900 (China)"},
-            {"GSM:900", "!AmbiguousName"},
-            {"GSM:450", "GSM - GSM 450"},
-            {"GSM:480", "GSM - GSM 480"},
-            {"GSM:850", "GSM - GSM 850"},
-            {"TDS:3", "TD-SCDMA - FBN 3"},
-            {"WIMAX:r12", "WIMAX - ProfR12 (7 3463)"},
-            {"LTE:global", "!AmbiguousName"},
-            {"TDD:global", "LTE-TDD - Band Global"},
-            {"LTE:IV", "!UnknownBand"},
-            {"LTE:1x", "!UnknownBand"},
-            {"LTE:1:2", "!UnknownBand"},
-            {"LTE:", "!BadName"},
-            {"FOO:1", "!UnknownTechnology"},
-            {"n78x", "!BadName"},
-            {"", "!BadName"},
-            {"-1", "!BadName"},
-            {"238", "!UnknownBand"},
-            {"99999999999999999999", "!UnknownBand"},
+            {"LTE-FDD - Band 1 (2100)", "201| 0201 |LTE-FDD - Band 1 (2100)|LTE:1|lte:1|FDD:1|"
+                                        "lte-fdd:B1|LTE:band1|B1|b1|Band1"},
+            {"5G NR - Band n78 (TD 3500)",
+             "5G NR - Band n78 (TD 3500)|NR:n78|5g:78|NR:n078|N78|n78 "},
+            {"LTE-FDD - Band 7 (2600)", "LTE:07"},
+            {"LTE-TDD - Band 33 (1900)", "LTE:33"},
+            {"CDMA - Band 0 (800)", "bc0"},
+            {"CDMA - Band 10 (2nd 800)", "CDMA:bc10"},
+            {"WCDMA - Band 8 (900-General)", "WCDMA:VIII"},
+            {"WCDMA - Band 1 (2100-General)", "umts:i"},
+            {"WCDMA - Band 2 (1900-Additional)", "WCDMA:2-additional"},
+            {"WCDMA - Band 21 (3500-General)", "WCDMA:21-3500"},
+            {"GSM - DCS 1800", "GSM:dcs1800|GSM:dcs"},
+            {"GSM - E-GSM 900", "GSM:e900"},
+            {"GSM - R-GSM 900 (China)", "GSM:r900china"},
+            {"GSM - GSM 450", "GSM:450"},
+            {"GSM - GSM 480", "GSM:480"},
+            {"GSM - GSM 850", "GSM:850"},
+            {"TD-SCDMA - FBN 3", "TDS:3"},
+            {"WIMAX - ProfR12 (7 3463)", "WIMAX:r12"},
+            {"LTE-TDD - Band Global", "TDD:global"},
+            {"!AmbiguousName", "WCDMA:IV|GSM:900|LTE:global"},
+            {"!UnknownBand",
+             "LTE-FDD - band 1 (2100)|LTE:IV|LTE:1x|LTE:1:2|238|99999999999999999999"},
+            {"!UnknownTechnology", "LTE - Band 1 (2100)|FOO:1"},
+            {"!BadName", "LTE:|n78x||-1"},
         };
         for (const auto &row : rows)
-            QTest::newRow(row[0]) << str(row[0]) << str(row[1]);
+            for (const QString &name : str(row[1]).split(QLatin1Char('|')))
+                QTest::newRow(qPrintable(name)) << name << str(row[0]);
     }
     void names()
     {
