@@ -18,28 +18,23 @@ const char *const kCodeNames[] = {
     "NoPairedChannel",   "NotFinite"};
 
 // An answer as one string: the value, or "!" and the error's code.
-template <typename T, typename Show>
-QString shown(const Result<T> &r, Show show)
+template <typename T>
+QString shown(const Result<T> &r)
 {
-    return r.ok() ? show(r.value())
-                  : QLatin1String("!") + QLatin1String(kCodeNames[int(r.error().code)]);
-}
-QString shown(const Result<Band> &r)
-{
-    return shown(r, [](const Band &b) { return b.standard(); });
-}
-QString shown(const Result<int> &r)
-{
-    return shown(r, [](int v) { return QString::number(v); });
-}
-QString shown(const Result<QList<int>> &r)
-{
-    return shown(r, [](const QList<int> &v) {
-        QStringList out;
-        for (int c : v)
+    if (!r.ok())
+        return QLatin1String("!") + QLatin1String(kCodeNames[int(r.error().code)]);
+    if constexpr (std::is_same_v<T, Band>)
+        return r.value().standard();
+    else if constexpr (std::is_same_v<T, int>)
+        return QString::number(r.value());
+    else if constexpr (std::is_same_v<T, Technology>)
+        return technologyName(r.value());
+    else {
+        QStringList out; // the channels of a list
+        for (int c : r.value())
             out << QString::number(c);
         return out.join(QLatin1Char(' '));
-    });
+    }
 }
 
 Band band(const char *name)
@@ -111,10 +106,8 @@ private slots:
                 const qint64 first = r.StartChannelNo, last = r.StopChannelNo;
                 for (Link link : {Link::Up, Link::Down}) {
                     for (const qint64 ch : {first, first + (last - first) / 2, last}) {
-                        const QString where = QStringLiteral("%1 link %2 ch %3")
-                                                  .arg(b.standard())
-                                                  .arg(int(link))
-                                                  .arg(ch);
+                        const QString where =
+                            b.standard() + QLatin1Char(' ') + nums({int(link), int(ch)});
                         const Result<double> f = b.frequency(link, int(ch));
                         if (servesLinkOfBand(r, int(link), b.duplex() == Duplex::Tdd))
                             QVERIFY2(f.ok(), qPrintable(where));
@@ -198,9 +191,7 @@ private slots:
 
     void technologiesAndMessages()
     {
-        const auto tech = [](const char *text) {
-            return shown(findTechnology(str(text)), [](Technology t) { return technologyName(t); });
-        };
+        const auto tech = [](const char *text) { return shown(findTechnology(str(text))); };
         QCOMPARE(tech("fdd") + tech(" NR ") + tech("umts") + tech("tds") + tech("lte") + tech(""),
                  str("LTE-FDD5G NRWCDMATD-SCDMA!AmbiguousName!UnknownTechnology"));
         QCOMPARE(findTechnology(u"lte").error().message,
@@ -286,12 +277,6 @@ private slots:
         QCOMPARE(shown(band("bc5").channelsAt(Link::Up, 455.65)), str("227 1256"));
         QVERIFY(!Band().frequency(Link::Down, 0).ok() && Band().standard().isEmpty());
         QVERIFY(lte1.withinEdges(Link::Down, 2110.0) && !lte1.withinEdges(Link::Down, 2170.1));
-        const QList<Record> records = lte1.records(Link::Up);
-        QCOMPARE(records.size(), 1);
-        QCOMPARE(nums({records[0].firstChannel, records[0].lastChannel, records[0].firstMHz,
-                       records[0].lowEdgeMHz, records[0].highEdgeMHz}),
-                 str("18000 18599 1920 1920 1980"));
-        QVERIFY(std::fabs(records[0].stepMHz - 0.1) < 1e-9);
     }
 
     // records() is the band's table less its placeholders, in order (the global
@@ -330,10 +315,7 @@ private slots:
             }
         }
         QVERIFY(placeholders > 0);
-        const Band n75 = band("NR:n75");
-        QCOMPARE(nums({n75.recordCount(), n75.records().size(), Band().recordCount(),
-                       Band().records().size()}),
-                 str("2 1 0 0"));
+        QCOMPARE(nums({Band().recordCount(), Band().records().size()}), str("0 0"));
     }
 
     void searches()
@@ -354,17 +336,14 @@ private slots:
              {"201/1/18300", "304/1/37150", "304/0/37150", "501/1/9750", "701/1/390000"})
             QVERIFY2(hits.contains(str(hit)), hit);
         QVERIFY(search(kNaN).isEmpty() && search(100000.0).isEmpty());
-        QList<int> codes;
-        for (const Band &b : bandsWithChannel(18300))
-            codes << b.code();
-        QCOMPARE(codes, QList<int>({201}));
-        for (const Band &b : allBands()) {
-            bool holds = false;
-            for (Link link : b.links())
-                for (const Record &r : b.records(link))
-                    holds = holds || (r.firstChannel <= 300 && 300 <= r.lastChannel);
-            QCOMPARE(bandsWithChannel(300).contains(b), holds && !b.isGlobal());
-        }
+        for (const int ch : {300, 18300, 630000})
+            for (const Band &b : allBands()) {
+                bool holds = false;
+                for (Link link : b.links())
+                    for (const Record &r : b.records(link))
+                        holds = holds || (r.firstChannel <= ch && ch <= r.lastChannel);
+                QCOMPARE(bandsWithChannel(ch).contains(b), holds && !b.isGlobal());
+            }
     }
 
     // Last: it registers records into G_CHSTD. A formula the library does not

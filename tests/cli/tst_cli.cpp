@@ -38,17 +38,6 @@ Run saiskuko(const QString &line, const QByteArray &input = {}, const QString &o
     return run;
 }
 
-// One JSON document per line of a batch run with --json.
-QList<QJsonObject> batchJson(const QStringList &lines)
-{
-    QList<QJsonObject> documents;
-    const Run run =
-        saiskuko(QStringLiteral("--json batch"), lines.join(QLatin1Char('\n')).toUtf8());
-    for (const QString &line : run.out.split(QLatin1Char('\n'), Qt::SkipEmptyParts))
-        documents << QJsonDocument::fromJson(line.toUtf8()).object();
-    return documents;
-}
-
 QString installed(const char *path)
 {
     QFile file(QFileInfo(qEnvironmentVariable("SAISKUKO_CLI"))
@@ -118,7 +107,6 @@ private slots:
         row("table", 0, nullptr, "");
         row("--version", 0, "saiskuko " SAISKUKO_VERSION_STR "\n", "");
         // Bad input: 2; a valid query without result: 1.
-        row("freq LTE:1-2 1", 2, "", "LTE-FDD or LTE-TDD has no band \"1-2\"; bands: ");
         row("freq GSM:900 1", 2, "",
             "it matches: GSM - P-GSM 900 [103], GSM - E-GSM 900 [104], GSM - R-GSM 900 [105], "
             "GSM - R-GSM 900 (China) [106]");
@@ -133,7 +121,6 @@ private slots:
         row("channel LTE:1 2140.05", 1, "", "2140.05 MHz is not a channel centre");
         row("table 2", 1, "", "mode 2 has no band table");
         row("chart 1000 700", 2, "", "chart: LOW must be below HIGH");
-        row("chart 700 nan", 2, "", "frequency \"nan\" is out of range");
         row("chart 700 1000 --mark 1200", 2, "", "mark \"1200\" lies outside the chart's window");
         row("chart 700 1000 --tech XYZ", 2, "", "XYZ");
         row("chart 0.1 0.5", 1, "", "no band has a record between 0.1 and 0.5 MHz");
@@ -155,13 +142,14 @@ private slots:
     // Every command answers in one JSON shape, errors too; numbers keep every digit.
     void oneJsonShape()
     {
-        const QList<QJsonObject> documents = batchJson(
-            {QStringLiteral("techs"), QStringLiteral("bands GSM"), QStringLiteral("band 201"),
-             QStringLiteral("freq WCDMA:1 10701"), QStringLiteral("channel LTE:1 2140"),
-             QStringLiteral("search 1950"), QStringLiteral("channels LTE:1 2140 2141"),
-             QStringLiteral("table 6"), QStringLiteral("which 1"), QStringLiteral("freq x 1"),
-             QStringLiteral("--version"),
-             QStringLiteral("channel CDMA:5 455.65 --ul --preferred 5")});
+        const QString lines = QStringLiteral(
+            "techs\nbands GSM\nband 201\nfreq WCDMA:1 10701\nchannel LTE:1 2140\nsearch 1950\n"
+            "channels LTE:1 2140 2141\ntable 6\nwhich 1\nfreq x 1\n--version\n"
+            "channel CDMA:5 455.65 --ul --preferred 5");
+        QList<QJsonObject> documents;
+        for (const QString &line : saiskuko(QStringLiteral("--json batch"), lines.toUtf8())
+                                       .out.split(QLatin1Char('\n'), Qt::SkipEmptyParts))
+            documents << QJsonDocument::fromJson(line.toUtf8()).object();
         QCOMPARE(documents.size(), 12);
         for (const QJsonObject &document : documents)
             QCOMPARE(document.keys(),
@@ -172,8 +160,8 @@ private slots:
                     .out.contains(QLatin1String("\"downlink\": 2140.2000000000003,")));
         QCOMPARE(documents[9][QLatin1String("status")].toInt(), 2);
         // Every channel at the frequency; the one shown is the first, the preferred not among them.
-        const QJsonValue hit = documents[11][QLatin1String("result")][QLatin1String("results")][0]
-                                        [QLatin1String("uplink")];
+        const QJsonValue hit = documents.at(
+            11)[QLatin1String("result")][QLatin1String("results")][0][QLatin1String("uplink")];
         QCOMPARE(hit[QLatin1String("channels")].toArray(), QJsonArray({227, 1256}));
         QCOMPARE(hit[QLatin1String("channel")].toInt(), 227);
     }
