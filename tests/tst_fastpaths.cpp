@@ -34,18 +34,12 @@ QList<QPair<double, double>> windowsOf(const stSubBand &r)
     const qint64 first = r.StartChannelNo;
     const double mid = literal::freqAt(r, first + (r.StopChannelNo - first) / 2);
     const double step = literal::freqAt(r, first + 1) - literal::freqAt(r, first);
-    return {{r.StartFreq, r.StopFreq},
-            {-kInf, kInf},
-            {kNaN, mid},
-            {mid, kNaN},
-            {-kInf, mid},
-            {mid, kInf},
-            {mid, mid},
-            {mid - step / 2, mid + step / 2},
-            {mid - step, mid + step},
-            {mid + step, mid - step},
-            {mid - 10 * step, mid + 3.3 * step},
+    // clang-format off
+    return {{r.StartFreq, r.StopFreq}, {-kInf, kInf}, {kNaN, mid}, {mid, kNaN}, {-kInf, mid},
+            {mid, kInf}, {mid, mid}, {mid - step / 2, mid + step / 2}, {mid - step, mid + step},
+            {mid + step, mid - step}, {mid - 10 * step, mid + 3.3 * step},
             {std::nextafter(mid, kInf), mid + 100 * step}};
+    // clang-format on
 }
 
 QString at(const QString &tech, const QString &band, double f)
@@ -196,10 +190,7 @@ private slots:
             QSet<QString> asked;
             for (const auto &r : kUnusualRecords) {
                 const QString name = QLatin1String(r.band);
-                const stSubBand &record =
-                    store->Technologies[1]
-                        .Bands[store->Technologies[1].BandIndexMap.value(name)]
-                        .SubBands[0];
+                const stSubBand &record = literal::band(*store, gsm, name).SubBands[0];
                 compareRecord(*store, gsm, name, record, asked);
                 for (int ch = 0; ch < 12; ++ch) { // along the first channels too
                     const double f = literal::freqAt(record, qint64(r.first) + ch);
