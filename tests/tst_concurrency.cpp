@@ -118,7 +118,7 @@ std::vector<std::function<QString()>> allQueries(std::vector<std::function<QStri
                 for (const ChInfo &h : s.GetChInfoFromFreq(p.mhz))
                     hits += h.techName + h.bandName
                             + nums({h.linkDirection, h.channelNo, h.freqOffset});
-                return answersByNames(p) + text(a) + hits + s.GetEnumulator(code)
+                return answersByNames(p) + nums(a) + hits + s.GetEnumulator(code)
                        + s.GetBandName(code);
             });
         }

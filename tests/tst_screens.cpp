@@ -70,8 +70,8 @@ private slots:
             own->SetBandInfo(gsm, str("Many"), 10 * i, 10 * i + 5, 100.0, 200.0,
                              i % 2 ? 200.0 : 100.0, 1, i % 2 ? 0 : 1, f, false);
         own->Technologies[1].BandIndexMap.insert(str("Empty"), own->Technologies[1].NumBand++);
-        for (int i = 0; i < 24;
-             ++i) // channel i at exactly 70000 MHz: ties beyond a short sort's reach
+        // Channel i at exactly 70000 MHz: ties beyond a short sort's reach.
+        for (int i = 0; i < 24; ++i)
             own->SetBandInfo(gsm, str("Crowd"), i, i, 69990.0, 70010.0, 70000.0 - 1.25 * i, 0, 1,
                              step125, false);
     }
@@ -175,8 +175,6 @@ private slots:
             "(0 - 599) | (0 - 599) | (2110.00 - 2169.90)");
         row("LTE-FDD selector -3", {0, "LTE-FDD", "Band 1 (2100)", -3},
             "(18000 - 18599) | (18000 - 18599) | (-1.00 - -1.00)");
-        row("WCDMA downlink", {0, "WCDMA", "Band 1 (2100-General)", 0},
-            "(10562 - 10838) | (10562 - 10838) | (2112.40 - 2167.60)");
         row("5G NR 3799.995", {0, "5G NR", "Band n78 (TD 3500)", 0},
             "(620000 - 653333) | (620000 - 653333) | (3300.00 - 3799.99)");
         // The given band name decides: a blank for "Band Global" under any name.
