@@ -121,24 +121,26 @@ private slots:
                 channels << QString::number(channel);
             return channels.join(QLatin1Char(' '));
         });
+        const auto window = [](const char *name, Args a, const char *expected) {
+            row(name, a, expected,
+                counted(*expected ? str(expected).count(QLatin1Char(' ')) + 1 : 0));
+        };
         const char *gsm850 = "GSM - GSM 850", *r1 = "WIMAX - ProfR1 (1.25 2150)";
-        row("lower-case forward is uplink", {0, gsm850, "forward", 0, 0, 824.2, 824.6},
-            "128 129 130", counted(3));
-        row("unknown names select CDMA Band 0", {0, "Foo - Bar", "Forward", 0, 0, 870.0, 870.07},
-            "1 2", counted(2));
-        row("parts after the second ignored",
-            {0, "LTE-FDD - Band 1 (2100) - x", "Forward", 0, 0, 2110.0, 2110.25}, "0 1 2",
-            counted(3));
-        row("no record of the direction", {0, r1, "Forward", 0, 0, 0.0, 1e9}, "", counted(0));
+        window("lower-case forward is uplink", {0, gsm850, "forward", 0, 0, 824.2, 824.6},
+               "128 129 130");
+        window("unknown names select CDMA Band 0", {0, "Foo - Bar", "Forward", 0, 0, 870.0, 870.07},
+               "1 2");
+        window("parts after the second ignored",
+               {0, "LTE-FDD - Band 1 (2100) - x", "Forward", 0, 0, 2110.0, 2110.25}, "0 1 2");
+        window("no record of the direction", {0, r1, "Forward", 0, 0, 0.0, 1e9}, "");
         // The first downlink record is the one whose first channel exceeds its
         // last; the later, well-formed downlink record is not offered.
-        row("malformed first record", {1, "GSM - Test band", "Forward", 0, 0, 0.0, 1e9}, "",
-            counted(0));
-        row("up to INT_MAX", {1, "GSM - Edge band", "Reverse", 0, 0, 59999.0, 60002.0},
-            "2147483646 2147483647", counted(2));
-        row("a second separator: band slot 0",
-            {0, "LTE-FDD -  - ", "Forward", 0, 0, 2161.85, 2162.85},
-            "519 520 521 522 523 524 525 526 527 528", counted(10));
+        window("malformed first record", {1, "GSM - Test band", "Forward", 0, 0, 0.0, 1e9}, "");
+        window("up to INT_MAX", {1, "GSM - Edge band", "Reverse", 0, 0, 59999.0, 60002.0},
+               "2147483646 2147483647");
+        window("a second separator: band slot 0",
+               {0, "LTE-FDD -  - ", "Forward", 0, 0, 2161.85, 2162.85},
+               "519 520 521 522 523 524 525 526 527 528");
         row("no separator", {0, "GSM 850", "Forward", 0, 0, 0.0, 1e9}, "",
             {str("W Channel Standard is invalid.( \"GSM 850\" )")});
     }
