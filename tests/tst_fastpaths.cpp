@@ -95,15 +95,6 @@ void compareRecord(const ChBandStore &store, const QString &tech, const QString 
     }
 }
 
-double zigzag(int ch, double base, int)
-{
-    return base + (ch % 7) * 0.5;
-}
-double plateau(int ch, double base, int)
-{
-    return base + (ch / 4) * 0.2;
-}
-
 // Every record of G_CHSTD: its searches as the walk, and at its first, middle
 // and last channel on both links, by enumerator as by the names its text
 // splits into and by names as on `own` (whose maps have no hash index).
@@ -154,8 +145,8 @@ const struct
     double base;
     ChFreqFunc f;
 } kUnusualRecords[] = {
-    {"Zigzag", 0, 40, 100.0, &zigzag},
-    {"Plateau", 0, 40, 100.0, &plateau},
+    {"Zigzag", 0, 40, 100.0, [](int ch, double base, int) { return base + (ch % 7) * 0.5; }},
+    {"Plateau", 0, 40, 100.0, [](int ch, double base, int) { return base + (ch / 4) * 0.2; }},
     {"Wrapping", INT_MAX - 20, INT_MAX, 0.0, &ChBandStore::chstdGetLTEBand1Up},
     {"Wrapping5", 429496700, 429496740, 0.0, &ChBandStore::chstdGetWIMAX_Common3},
     {"Empty", 10, 5, 0.0, &ChBandStore::chstdGetGSM_900},

@@ -10,10 +10,7 @@
 namespace {
 
 // Maps every channel of a record onto its base frequency.
-double flat(int, double base, int)
-{
-    return base;
-}
+const ChFreqFunc flat = [](int, double base, int) { return base; };
 
 const QString kHuge(1 << 20, QLatin1Char('x')); // a megabyte of name
 const ChBandStore &s = G_CHSTD;
@@ -61,11 +58,11 @@ private slots:
                              101.0 + i, 100.0 + i, 1, i % 2 == 0 ? 1 : 0, f900, false);
         own->SetBandInfo(gsm, str("Negative"), -10, -5, 50.0, 51.0, 50.0, 1, 1, f900, false);
         own->SetBandInfo(gsm, str("Negative"), -3, 4, 60.0, 61.0, 60.0, 1, 0, f900, false);
-        own->SetBandInfo(gsm, str("Flat"), 900, 900, 400.0, 600.0, 500.0, 1, 1, &flat, false);
-        own->SetBandInfo(gsm, str("Flat"), 0, 19, 400.0, 600.0, 500.0, 1, 1, &flat, false);
-        own->SetBandInfo(gsm, str("Near"), 1, 1, 0.5, 2.0, 0.75, 1, 1, &flat, false);
-        own->SetBandInfo(gsm, str("Near"), 2, 2, 0.5, 2.0, 1.5, 1, 1, &flat, false);
-        own->SetBandInfo(gsm, str("Top"), INT_MAX - 2, INT_MAX, 600.0, 800.0, 700.0, 1, 1, &flat,
+        own->SetBandInfo(gsm, str("Flat"), 900, 900, 400.0, 600.0, 500.0, 1, 1, flat, false);
+        own->SetBandInfo(gsm, str("Flat"), 0, 19, 400.0, 600.0, 500.0, 1, 1, flat, false);
+        own->SetBandInfo(gsm, str("Near"), 1, 1, 0.5, 2.0, 0.75, 1, 1, flat, false);
+        own->SetBandInfo(gsm, str("Near"), 2, 2, 0.5, 2.0, 1.5, 1, 1, flat, false);
+        own->SetBandInfo(gsm, str("Top"), INT_MAX - 2, INT_MAX, 600.0, 800.0, 700.0, 1, 1, flat,
                          false);
         own->SetBandInfo(gsm, str("DownFirst"), 100, 200, 900.0, 920.0, 900.0, 1, 0, f900, false);
         own->SetBandInfo(gsm, str("DownFirst"), 300, 400, 950.0, 970.0, 950.0, 1, 1, f900, false);
