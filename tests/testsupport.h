@@ -202,11 +202,19 @@ using Call = QString (*)(const ChBandStore &, const Args &, const QString &tech,
                          const QString &band);
 
 inline Call g_call;                        // the call of the rows being added
+inline const char *g_section = "";         // and the start of their names
 inline const ChBandStore *g_own = nullptr; // the suite's private store
 
-inline void columns(Call call = nullptr)
+// The rows after it ask another call of the same table.
+inline void asking(const char *section, Call call)
 {
+    g_section = section;
     g_call = call;
+}
+
+inline void columns(const char *section = "", Call call = nullptr)
+{
+    asking(section, call);
     QTest::addColumn<Query>("query");
     QTest::addColumn<QString>("expected");
     QTest::addColumn<QStringList>("log");
@@ -215,7 +223,7 @@ inline void columns(Call call = nullptr)
 inline void row(const char *name, const Query &query, const QString &expected,
                 const QStringList &log = {})
 {
-    QTest::newRow(name) << query << expected << log;
+    QTest::newRow(qPrintable(str(g_section) + str(name))) << query << expected << log;
 }
 
 inline void row(const char *name, Args a, const char *expected, const QStringList &log = {})

@@ -80,7 +80,7 @@ private slots:
     // text form fail alike, with one warning naming the first part that is wrong.
     void names_data()
     {
-        columns([](auto &s, auto &, auto &t, auto &) {
+        columns("", [](auto &s, auto &, auto &t, auto &) {
             const QStringList parts = t.split(str(" - "));
             return nums({parts.size() > 1 ? s.GetEnumulator(parts[0], parts[1]) : -1,
                          s.IsChannelStandard(t)});
@@ -157,10 +157,10 @@ private slots:
                                  << str("W ") + invalidEnum(409));
     }
 
-    void limits_data()
+    void byNames_data()
     {
         // MHz low and high, channels first and last, records, record 0's MHz and flag.
-        columns([](auto &s, auto &a, auto &t, auto &b) {
+        columns("limits: ", [](auto &s, auto &a, auto &t, auto &b) {
             return nums({s.GetStartFreq(t, b, a.link), s.GetStopFreq(t, b, a.link),
                          s.GetStartChannelNo(t, b, a.link), s.GetStopChannelNo(t, b, a.link),
                          s.GetNumSubBand(t, b), s.GetStartFreq(t, b), s.IsUplinkOnly(t, b)});
@@ -186,12 +186,8 @@ private slots:
         row("negative link 2", {1, "GSM", "Negative", 2}, "0 0 -3 4 2 50 0");
         row("no records", {1, "GSM", "Empty", 1}, "0 0 0 0 0 0 0");
         row("link INT_MIN", {0, "GSM", "GSM 850", INT_MIN}, "0 0 128 251 2 824 0");
-    }
-    void limits() { checkRow(); }
 
-    void channelToFreq_data()
-    {
-        columns([](auto &s, auto &a, auto &t, auto &b) {
+        asking("GetFreq: ", [](auto &s, auto &a, auto &t, auto &b) {
             return nums({s.GetFreq(t, b, a.link, a.channel),
                          s.GetFreqNoLimit(t, b, a.link, a.channel),
                          s.IsExistChannelNo(t, b, a.link, a.channel)});
@@ -223,13 +219,9 @@ private slots:
         row("INT_MIN wraps", {0, "GSM", "GSM 850", 1, INT_MIN}, "-1 429497528.2 0");
         row("link INT_MIN", {0, "GSM", "GSM 850", INT_MIN, 128}, "-1 -1 0");
         row("TDD link INT_MIN", {0, "LTE-TDD", "Band 40 (2300)", INT_MIN, 38650}, "2300 2300 0");
-    }
-    void channelToFreq() { checkRow(); }
 
-    void stopInSample_data()
-    {
         // Note the argument order: channel before link.
-        columns([](auto &s, auto &a, auto &t, auto &b) {
+        asking("InSample: ", [](auto &s, auto &a, auto &t, auto &b) {
             return QString::number(s.GetStopChannelNo_InSample(t, b, a.channel, a.link));
         });
         row("in no record: record 0", {0, "GSM", "GSM 850", 1, 300}, "251");
@@ -248,15 +240,11 @@ private slots:
         row("100: beyond the array", {1, "GSM", "Hundred", -9, 0}, "0");
         row("no records", {1, "GSM", "Empty", -9, 0}, "0");
         row("channel INT_MAX, link INT_MIN", {0, "GSM", "GSM 850", INT_MIN, INT_MAX}, "251");
-    }
-    void stopInSample() { checkRow(); }
 
-    // A miss writes its one line to standard output, never to the Qt log,
-    // the value in six digits.
-    void channelOfFreq_data()
-    {
+        // A miss writes its one line to standard output, never to the Qt log,
+        // the value in six digits.
         // The channel argument is the preferred one.
-        columns([](auto &s, auto &a, auto &t, auto &b) {
+        asking("GetChNumFromFreq: ", [](auto &s, auto &a, auto &t, auto &b) {
             return QString::number(s.GetChNumFromFreq(t, b, a.link, a.mhz, a.channel));
         });
         // Answers on the band plan are held to the literal walk (tst_fastpaths);
@@ -274,13 +262,9 @@ private slots:
             printed("824.2"));
         row("preference INT_MAX", {0, "GSM", "GSM 850", 1, INT_MAX, 824.2}, "128");
         row("largest double", {0, "GSM", "GSM 850", 1, 0, DBL_MAX}, "-1", printed("1.79769e+308"));
-    }
-    void channelOfFreq() { checkRow(); }
 
-    // Uplink start channel minus downlink start channel; the link is not read.
-    void offset_data()
-    {
-        columns([](auto &s, auto &a, auto &t, auto &b) {
+        // Uplink start channel minus downlink start channel; the link is not read.
+        asking("offset: ", [](auto &s, auto &a, auto &t, auto &b) {
             return QString::number(s.GetOffsetChUpDown(t, b, a.channel, a.link));
         });
         row("up channel, link not consulted", {0, "LTE-FDD", "Band 1 (2100)", 7, 18300}, "18000");
@@ -301,14 +285,14 @@ private slots:
         row("unlisted name, same band", {1, "WIMAX", "ProfR1", 1, 0}, "-100");
         row("unlisted name, down", {1, "WIMAX", "", 0, 105}, "-100");
     }
-    void offset() { checkRow(); }
+    void byNames() { checkRow(); }
 
-    void textForms_data()
+    void otherForms_data()
     {
         // On a channel standard text, with the link as a number or, given in
         // place of the band, as a direction word; the channel is also the
         // preferred one.
-        columns([](auto &s, auto &a, auto &t, auto &b) {
+        columns("text: ", [](auto &s, auto &a, auto &t, auto &b) {
             const int c = a.channel;
             return a.band ? nums({s.GetFreq(t, b, c), s.GetChNumFromFreq(t, b, a.mhz, c),
                                   s.GetOffsetChUpDown(t, b, c)})
@@ -329,19 +313,15 @@ private slots:
         row("no separator", {0, "GSM 850", nullptr, 1, 128, 824.2}, "-1 -1 -1", invalid3);
         // The split fails before the frequency is looked at.
         row("no separator, NaN", {0, "GSM 850", "Forward", 1, 128, kNaN}, "-1 -1 -1", invalid3);
-    }
-    void textForms() { checkRow(); }
 
-    // Every member by enumerator: an invalid code (just past each
-    // technology's bands, past the technologies, negative, the int ends) gets
-    // the failure values, true from IsUplinkOnly but false from
-    // IsExistChannelNo, and a warning from each member but the reverse
-    // conversion; a valid one whose band has no record gets the name forms'
-    // empty answers. Valid codes of the plan are held to the name forms by
-    // tst_fastpaths.
-    void byEnum_data()
-    {
-        columns([](auto &s, auto &a, auto &, auto &) {
+        // Every member by enumerator: an invalid code (just past each
+        // technology's bands, past the technologies, negative, the int ends) gets
+        // the failure values, true from IsUplinkOnly but false from
+        // IsExistChannelNo, and a warning from each member but the reverse
+        // conversion; a valid one whose band has no record gets the name forms'
+        // empty answers. Valid codes of the plan are held to the name forms by
+        // tst_fastpaths.
+        asking("enum: ", [](auto &s, auto &a, auto &, auto &) {
             Answers answers;
             answers << s.GetTech(a.code) << s.GetBand(a.code) << s.IsChannelStandard(a.code);
             askByCode({s, {}, {}, a.code, a.link, a.channel, a.mhz}, answers);
@@ -356,12 +336,8 @@ private slots:
              {11, 109, 238, 317, 619, 736, 800, 900, -1, -100, -150, INT_MIN, INT_MAX})
             row(qPrintable(QString::number(code)), {0, nullptr, nullptr, 1, 128, 824.2, 0, code},
                 "|None|-1 -1 0 -1 -1 -1 -1 -1 -1 1 -1 -1 -1 0 -1", warned(invalidEnum(code), 16));
-    }
-    void byEnum() { checkRow(); }
 
-    void badInput_data()
-    {
-        columns();
+        asking("bad input: ", nullptr);
         const QString fdd = str("LTE-FDD"), b1 = str("Band 1 (2100)");
         const QString badBand = QLatin1String("W ") + invalid("Band Name", kHuge);
         row("huge names, strict",
@@ -406,7 +382,7 @@ private slots:
             nums({INT_MIN * 0.2, 0, 11, INT_MIN, INT_MAX, 0, 1, INT_MAX, -1, kNaN, 0, 1}),
             {str("D [ChStd]  Version :  " SAISKUKO_VERSION_STR), str("D AvailableChannels :  11")});
     }
-    void badInput() { checkRow(); }
+    void otherForms() { checkRow(); }
 };
 
 QTEST_APPLESS_MAIN(TestQueries)

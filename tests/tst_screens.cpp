@@ -76,10 +76,11 @@ private slots:
                              step125, false);
     }
 
-    void search_data()
+    void screens_data()
     {
-        columns(
-            [](auto &s, auto &a, auto &, auto &) { return render(s.GetChInfoFromFreq(a.mhz)); });
+        columns("search: ", [](auto &s, auto &a, auto &, auto &) {
+            return render(s.GetChInfoFromFreq(a.mhz));
+        });
         // Exact hits across technologies keep technology order; the 0.1 MHz
         // misses of GSM and WCDMA tie as well and follow.
         row("1842.5, ties across technologies", {0, nullptr, nullptr, 0, 0, 1842.5},
@@ -95,27 +96,9 @@ private slots:
         for (const double nothing :
              {kNaN, kInf, -kInf, 0.0, -1842.5, 40000.001, DBL_TRUE_MIN, -DBL_MAX, DBL_MAX})
             row(qPrintable(QString::number(nothing)), {0, nullptr, nullptr, 0, 0, nothing}, "");
-    }
-    void search() { checkRow(); }
 
-    // The private records the plan lacks answer as the walk: a record whose
-    // first channel exceeds its last matches but chooses no channel (so it
-    // comes last though scanned first), one band name in two technologies,
-    // a global band (never reported), channels up to INT_MAX, 24 exact ties.
-    void searchPrivateRecords()
-    {
-        for (const double f : {50005.0, 50000.0, 50100.0, 60000.0, 70000.0}) {
-            const QList<ChInfo> hits = own->GetChInfoFromFreq(f);
-            QVERIFY(hits.size() >= 2 || f == 60000.0);
-            QVERIFY2(literal::sameHits(hits, literal::chInfoFromFreq(*own, f)),
-                     qPrintable(render(hits)));
-        }
-    }
-
-    // Every call but a malformed one logs its count as one debug line.
-    void availableChannels_data()
-    {
-        columns([](auto &s, auto &a, auto &t, auto &b) {
+        // Every call but a malformed one logs its count as one debug line.
+        asking("window: ", [](auto &s, auto &a, auto &t, auto &b) {
             QStringList channels;
             for (const int channel : s.GetAvailableChannels(t, b, a.mhz, a.high))
                 channels << QString::number(channel);
@@ -143,13 +126,9 @@ private slots:
                "519 520 521 522 523 524 525 526 527 528");
         row("no separator", {0, "GSM 850", "Forward", 0, 0, 0.0, 1e9}, "",
             {str("W Channel Standard is invalid.( \"GSM 850\" )")});
-    }
-    void availableChannels() { checkRow(); }
 
-    // The channels on one line, the channels and the MHz one range a line.
-    void refStrings_data()
-    {
-        columns([](auto &s, auto &a, auto &t, auto &b) {
+        // The channels on one line, the channels and the MHz one range a line.
+        asking("refs: ", [](auto &s, auto &a, auto &t, auto &b) {
             return QStringList{s.GetChNumRefString(t, b, a.link),
                                s.GetChNumRefString_List(t, b, a.link),
                                s.GetFreqRefString_List(t, b, a.link)}
@@ -202,7 +181,21 @@ private slots:
                        + list.join(QLatin1Char('\n')) + QLatin1String(" | ")
                        + mhz.join(QLatin1Char('\n'))));
     }
-    void refStrings() { checkRow(); }
+    void screens() { checkRow(); }
+
+    // The private records the plan lacks answer as the walk: a record whose
+    // first channel exceeds its last matches but chooses no channel (so it
+    // comes last though scanned first), one band name in two technologies,
+    // a global band (never reported), channels up to INT_MAX, 24 exact ties.
+    void searchPrivateRecords()
+    {
+        for (const double f : {50005.0, 50000.0, 50100.0, 60000.0, 70000.0}) {
+            const QList<ChInfo> hits = own->GetChInfoFromFreq(f);
+            QVERIFY(hits.size() >= 2 || f == 60000.0);
+            QVERIFY2(literal::sameHits(hits, literal::chInfoFromFreq(*own, f)),
+                     qPrintable(render(hits)));
+        }
+    }
 
     // Each mode's technologies in order, every band with its range text of
     // the chosen link and no frequency text; the second argument is never read.
