@@ -307,17 +307,14 @@ private slots:
         QStringList hits;
         double lastOffset = 0.0;
         for (const SearchHit &hit : search(1950.0)) {
-            hits << QStringLiteral("%1/%2/%3")
-                        .arg(hit.band.code())
-                        .arg(int(hit.link))
-                        .arg(hit.channel);
+            hits << nums({hit.band.code(), int(hit.link), hit.channel});
             QVERIFY(!hit.band.isGlobal() && std::fabs(hit.offsetMHz) >= lastOffset);
             lastOffset = std::fabs(hit.offsetMHz);
             QCOMPARE(hit.channelMHz, hit.band.frequency(hit.link, hit.channel).value());
             QVERIFY(std::fabs(hit.channelMHz - 1950.0 - hit.offsetMHz) < 1e-9);
         }
         for (const char *hit :
-             {"201/1/18300", "304/1/37150", "304/0/37150", "501/1/9750", "701/1/390000"})
+             {"201 1 18300", "304 1 37150", "304 0 37150", "501 1 9750", "701 1 390000"})
             QVERIFY2(hits.contains(str(hit)), hit);
         QVERIFY(search(kNaN).isEmpty() && search(100000.0).isEmpty());
     }

@@ -25,12 +25,7 @@ QList<ChartBox> textBoxes(const ChartLayout &layout)
 ChartLayout chart(double low, double high, QList<saiskuko::Technology> techs = {},
                   QList<double> marks = {})
 {
-    ChartRequest request;
-    request.lowMHz = low;
-    request.highMHz = high;
-    request.techs = techs;
-    request.marksMHz = marks;
-    return layoutChart(request);
+    return layoutChart({low, high, techs, marks});
 }
 
 } // namespace
