@@ -93,7 +93,13 @@ private slots:
     {
         LogCapture log;
         int checked = 0, placeholders = 0;
+        QCOMPARE(allBands().size(), 172);
         for (const Band &b : allBands()) {
+            // Named by its code and by its short name, which every GSM band has.
+            QCOMPARE(bandByCode(b.code()).value(), b);
+            QVERIFY(b.shortName().isEmpty() || findBand(b.shortName()).value() == b);
+            QVERIFY2(b.technology() != Technology::Gsm || !b.shortName().isEmpty(),
+                     qPrintable(b.standard()));
             const ChBand &data = G_CHSTD.Technologies[int(b.technology())].Bands[b.code() % 100];
             QStringList table;
             for (int i = 0; i < data.NumSubBand; ++i) {
@@ -241,15 +247,6 @@ private slots:
             bandwidths << nums({defaultIntegrationBandwidthHz(Technology(t))});
         QCOMPARE(bandwidths.join(QLatin1Char(' ')),
                  str("1230000 300000 10000000 10000000 1280000 3840000 10000000 1000000 1000000"));
-        // Every band is named by its code and by its short name, where it has one.
-        const QList<Band> all = allBands();
-        QCOMPARE(all.size(), 172);
-        for (const Band &b : all) {
-            QCOMPARE(bandByCode(b.code()).value(), b);
-            QVERIFY(b.shortName().isEmpty() || findBand(b.shortName()).value() == b);
-            QVERIFY2(b.technology() != Technology::Gsm || !b.shortName().isEmpty(),
-                     qPrintable(b.standard()));
-        }
         QCOMPARE(band("n78").shortName(), str("NR:n78"));
     }
 

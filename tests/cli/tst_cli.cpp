@@ -22,8 +22,8 @@ Run saiskuko(const QString &line, const QByteArray &input = {}, const QString &o
 {
     QProcess process;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.remove(
-        QStringLiteral("LD_LIBRARY_PATH")); // only the installed layout may supply the library
+    // Only the installed layout may supply the library.
+    environment.remove(QStringLiteral("LD_LIBRARY_PATH"));
     process.setProcessEnvironment(environment);
     if (!outputFile.isEmpty())
         process.setStandardOutputFile(outputFile);
@@ -151,10 +151,8 @@ private slots:
             documents << QJsonDocument::fromJson(line.toUtf8()).object();
         QCOMPARE(documents.size(), 12);
         for (const QJsonObject &document : documents)
-            QCOMPARE(document.keys(),
-                     QStringList({QStringLiteral("arguments"), QStringLiteral("command"),
-                                  QStringLiteral("notes"), QStringLiteral("result"),
-                                  QStringLiteral("status")}));
+            QCOMPARE(document.keys().join(QLatin1Char(' ')),
+                     QStringLiteral("arguments command notes result status"));
         QVERIFY(saiskuko(QStringLiteral("--json freq WCDMA:1 10701"))
                     .out.contains(QLatin1String("\"downlink\": 2140.2000000000003,")));
         QCOMPARE(documents[9][QLatin1String("status")].toInt(), 2);
