@@ -76,37 +76,6 @@ private slots:
         QCOMPARE(own->GetEnumulator(str("GSM"), str("Empty")), 115);
     }
 
-    // The strict lookup (when the text has two parts) and the check of the
-    // text form fail alike, with one warning naming the first part that is wrong.
-    void names_data()
-    {
-        columns("", [](auto &s, auto &, auto &t, auto &) {
-            const QStringList parts = t.split(str(" - "));
-            return nums({parts.size() > 1 ? s.GetEnumulator(parts[0], parts[1]) : -1,
-                         s.IsChannelStandard(t)});
-        });
-        const auto names = [](const char *text, int code, const char *what = "",
-                              const QString &value = {}) {
-            const int calls = *what ? str(text).contains(str(" - ")) ? 2 : 1 : 0;
-            row(*text ? text : "empty", {false, text}, qPrintable(nums({code, code >= 0})),
-                warned(invalid(what, value), calls));
-        };
-        names("CDMA - Band 0 (800)", 0);               // code 0 is valid
-        names("GSM - GSM 850 - x", 102);               // parts after the second are ignored
-        names("LTE - x", -1, "Tech Name", str("LTE")); // the band is not looked at
-        names("lte-fdd - Band 1 (2100)", -1, "Tech Name", str("lte-fdd"));
-        names("LTE-FDD - Band 1 (2100-General)", -1, "Band Name", str("Band 1 (2100-General)"));
-        names("GSM - gsm 850", -1, "Band Name", str("gsm 850"));
-        names("GSM - GSM 850 ", -1, "Band Name", str("GSM 850 "));
-        names("GSM -  - GSM 850", -1, "Band Name", str(""));
-        names("say \"GSM\\ - GSM 850", -1, "Tech Name", str("say \\\"GSM\\\\"));
-        names("GSM - Bänd\t€", -1, "Band Name", str("Bänd\\t€"));
-        names("LTE-TDD-Band 40 (2300)", -1, "Channel Standard", str("LTE-TDD-Band 40 (2300)"));
-        names("GSM 850", -1, "Channel Standard", str("GSM 850"));
-        names("", -1, "Channel Standard", str(""));
-    }
-    void names() { checkRow(); }
-
     // Names and numbers agree for every band of the plan, in both directions.
     // The classifier lists name exactly the time-division bands: all of LTE-TDD
     // and TD-SCDMA, the single-record WiMAX profiles, and elsewhere only the
@@ -287,12 +256,39 @@ private slots:
     }
     void byNames() { checkRow(); }
 
-    void otherForms_data()
+    void byTextAndEnum_data()
     {
+        // The strict lookup (when the text has two parts) and the check of the
+        // text form fail alike, with one warning naming the first part that is wrong.
+        columns("names: ", [](auto &s, auto &, auto &t, auto &) {
+            const QStringList parts = t.split(str(" - "));
+            return nums({parts.size() > 1 ? s.GetEnumulator(parts[0], parts[1]) : -1,
+                         s.IsChannelStandard(t)});
+        });
+        const auto names = [](const char *text, int code, const char *what = "",
+                              const QString &value = {}) {
+            const int calls = *what ? str(text).contains(str(" - ")) ? 2 : 1 : 0;
+            row(*text ? text : "empty", {false, text}, qPrintable(nums({code, code >= 0})),
+                warned(invalid(what, value), calls));
+        };
+        names("CDMA - Band 0 (800)", 0);               // code 0 is valid
+        names("GSM - GSM 850 - x", 102);               // parts after the second are ignored
+        names("LTE - x", -1, "Tech Name", str("LTE")); // the band is not looked at
+        names("lte-fdd - Band 1 (2100)", -1, "Tech Name", str("lte-fdd"));
+        names("LTE-FDD - Band 1 (2100-General)", -1, "Band Name", str("Band 1 (2100-General)"));
+        names("GSM - gsm 850", -1, "Band Name", str("gsm 850"));
+        names("GSM - GSM 850 ", -1, "Band Name", str("GSM 850 "));
+        names("GSM -  - GSM 850", -1, "Band Name", str(""));
+        names("say \"GSM\\ - GSM 850", -1, "Tech Name", str("say \\\"GSM\\\\"));
+        names("GSM - Bänd\t€", -1, "Band Name", str("Bänd\\t€"));
+        names("LTE-TDD-Band 40 (2300)", -1, "Channel Standard", str("LTE-TDD-Band 40 (2300)"));
+        names("GSM 850", -1, "Channel Standard", str("GSM 850"));
+        names("", -1, "Channel Standard", str(""));
+
         // On a channel standard text, with the link as a number or, given in
         // place of the band, as a direction word; the channel is also the
         // preferred one.
-        columns("text: ", [](auto &s, auto &a, auto &t, auto &b) {
+        asking("text: ", [](auto &s, auto &a, auto &t, auto &b) {
             const int c = a.channel;
             return a.band ? nums({s.GetFreq(t, b, c), s.GetChNumFromFreq(t, b, a.mhz, c),
                                   s.GetOffsetChUpDown(t, b, c)})
@@ -382,7 +378,7 @@ private slots:
             nums({INT_MIN * 0.2, 0, 11, INT_MIN, INT_MAX, 0, 1, INT_MAX, -1, kNaN, 0, 1}),
             {str("D [ChStd]  Version :  " SAISKUKO_VERSION_STR), str("D AvailableChannels :  11")});
     }
-    void otherForms() { checkRow(); }
+    void byTextAndEnum() { checkRow(); }
 };
 
 QTEST_APPLESS_MAIN(TestQueries)
