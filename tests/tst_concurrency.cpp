@@ -230,11 +230,8 @@ private slots:
                      0L);
             QCOMPARE(
                 allocationsOf([&, link = link] { return b.channelsAt(link, mhz).value().size(); }),
-                10L); // its list alone
+                10L); // its list alone, which also shows that the counter sees Qt's allocations
         }
-        const long before = g_allocations.load(); // the counter sees Qt's allocations
-        QString grown(100, QLatin1Char('x'));
-        QVERIFY(g_allocations.load() > before);
 #endif
     }
 };

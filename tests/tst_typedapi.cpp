@@ -252,19 +252,18 @@ private slots:
 
     void duplexAndLinks()
     {
-        const char *const rows[][3] = {
-            {"LTE:1", "FDD", "1 0"},     {"NR:n78", "TDD", "1 0"},     {"NR:n41", "TDD", "1 0"},
-            {"NR:n77", "TDD", "1 0"},    {"NR:n257", "TDD", "1 0"},    {"NR:n75", "SDL", "0"},
-            {"NR:n80", "SUL", "1"},      {"TDD:global", "TDD", "1 0"}, {"FDD:global", "FDD", "1 0"},
-            {"NR:global", "FDD", "1 0"}, {"WIMAX:1", "TDD", "1 0"},    {"WIMAX:6", "FDD", "1 0"},
-            {"TDS:0", "TDD", "1 0"},     {"GSM:dcs", "FDD", "1 0"}};
+        const char *const rows[][2] = {
+            {"LTE:1", "FDD 1 0"},     {"NR:n78", "TDD 1 0"},     {"NR:n41", "TDD 1 0"},
+            {"NR:n77", "TDD 1 0"},    {"NR:n257", "TDD 1 0"},    {"NR:n75", "SDL 0"},
+            {"NR:n80", "SUL 1"},      {"TDD:global", "TDD 1 0"}, {"FDD:global", "FDD 1 0"},
+            {"NR:global", "FDD 1 0"}, {"WIMAX:1", "TDD 1 0"},    {"WIMAX:6", "FDD 1 0"},
+            {"TDS:0", "TDD 1 0"},     {"GSM:dcs", "FDD 1 0"}};
         for (const auto &row : rows) {
             const Band b = band(row[0]);
-            QStringList links;
+            QStringList got = {duplexName(b.duplex())};
             for (Link link : b.links())
-                links << QString::number(int(link));
-            QCOMPARE(duplexName(b.duplex()) + QLatin1Char(' ') + links.join(QLatin1Char(' ')),
-                     str(row[1]) + QLatin1Char(' ') + str(row[2]));
+                got << QString::number(int(link));
+            QCOMPARE(got.join(QLatin1Char(' ')), str(row[1]));
         }
         QVERIFY(band("FDD:global").isGlobal() && !band("LTE:1").isGlobal());
     }

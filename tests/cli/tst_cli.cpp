@@ -40,9 +40,8 @@ Run saiskuko(const QString &line, const QByteArray &input = {}, const QString &o
 
 QString installed(const char *path)
 {
-    QFile file(QFileInfo(qEnvironmentVariable("SAISKUKO_CLI"))
-                   .dir()
-                   .filePath(QLatin1String("../share/") + QLatin1String(path)));
+    QFile file(QFileInfo(qEnvironmentVariable("SAISKUKO_CLI")).path() + QLatin1String("/../share/")
+               + QLatin1String(path));
     return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
 }
 
@@ -183,8 +182,7 @@ private slots:
     {
         if (!QFile::exists(QStringLiteral("/dev/full")))
             QSKIP("no /dev/full");
-        QCOMPARE(saiskuko(QStringLiteral("freq LTE:1 300"), {}, QStringLiteral("/dev/full")).status,
-                 3);
+        QCOMPARE(saiskuko(QStringLiteral("band 201"), {}, QStringLiteral("/dev/full")).status, 3);
     }
 
     // The man page and the completion name every command the help lists.
