@@ -29,12 +29,8 @@ QString shown(const Result<T> &r)
         return QString::number(r.value());
     else if constexpr (std::is_same_v<T, Technology>)
         return technologyName(r.value());
-    else {
-        QStringList out; // the channels of a list
-        for (int c : r.value())
-            out << QString::number(c);
-        return out.join(QLatin1Char(' '));
-    }
+    else
+        return nums(r.value()); // the channels of a list
 }
 
 Band band(const char *name)
@@ -137,11 +133,12 @@ private slots:
                                  qPrintable(where));
                         QVERIFY2(b.channelsAt(link, f.value()).value().contains(int(ch)),
                                  qPrintable(where));
-                        // On the centre, off it and halfway to the next, as the walk
-                        // over every channel finds.
+                        // On the centre, off it, halfway to the next and either side of
+                        // the half hertz that counts as the centre, as the walk finds.
                         const double off = step ? step : 0.001;
                         for (double mhz :
-                             {f.value(), f.value() + 0.37 * off, f.value() + 0.5 * off}) {
+                             {f.value(), f.value() + 0.37 * off, f.value() + 0.5 * off,
+                              f.value() - 0.9 * kHalfHertz, f.value() + 1.1 * kHalfHertz}) {
                             const Walked w = walk(b, link, mhz);
                             const Result<QList<int>> at = b.channelsAt(link, mhz);
                             QCOMPARE(at.ok() ? at.value() : QList<int>(), w.at);
