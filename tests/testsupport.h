@@ -42,12 +42,17 @@ struct Num
     }
 };
 
-inline QString nums(std::initializer_list<Num> values)
+template <typename Values>
+QString nums(const Values &values)
 {
     QStringList out;
-    for (const Num &value : values)
-        out.append(value.text);
+    for (const auto &value : values)
+        out.append(Num(value).text);
     return out.join(QLatin1Char(' '));
+}
+inline QString nums(std::initializer_list<Num> values)
+{
+    return nums<std::initializer_list<Num>>(values);
 }
 
 // A private store (the constructor fills in the real band plan) whose banner
@@ -109,14 +114,6 @@ struct Place
 // Numeric answers gathered without touching the heap.
 using Answers = QVarLengthArray<double, 64>;
 
-inline QString text(const Answers &answers)
-{
-    QStringList out;
-    for (const double value : answers)
-        out << Num(value).text;
-    return out.join(QLatin1Char(' '));
-}
-
 // Every query with a numeric answer by enumerator, then the same by names in
 // the same order, then those only the names and the text forms offer.
 inline void askByCode(const Place &p, Answers &a)
@@ -163,7 +160,7 @@ inline QString answersByNames(const Place &p)
     a << s.GetFreq(text, p.link, p.ch) << s.GetFreq(text, dir, p.ch)
       << s.GetChNumFromFreq(text, p.link, p.mhz, p.ch) << s.GetChNumFromFreq(text, dir, p.mhz, -1)
       << s.GetOffsetChUpDown(text, p.link, p.ch) << s.GetOffsetChUpDown(text, dir, p.ch);
-    return QStringList{::text(a), s.GetBandList(p.tech).join(QLatin1Char('/')),
+    return QStringList{nums(a), s.GetBandList(p.tech).join(QLatin1Char('/')),
                        s.GetChNumRefString(p.tech, p.band, p.link),
                        s.GetChNumRefString_List(p.tech, p.band, p.link),
                        s.GetFreqRefString_List(p.tech, p.band, p.link)}
@@ -175,7 +172,7 @@ QString answered(const Place &p)
 {
     Answers a;
     Ask(p, a);
-    return text(a);
+    return nums(a);
 }
 
 // What a query answers about a place, then everything it logged.
@@ -205,11 +202,19 @@ using Call = QString (*)(const ChBandStore &, const Args &, const QString &tech,
                          const QString &band);
 
 inline Call g_call;                        // the call of the rows being added
+inline const char *g_section = "";         // and the start of their names
 inline const ChBandStore *g_own = nullptr; // the suite's private store
 
-inline void columns(Call call = nullptr)
+// The rows after it ask another call of the same table.
+inline void asking(const char *section, Call call)
 {
+    g_section = section;
     g_call = call;
+}
+
+inline void columns(const char *section = "", Call call = nullptr)
+{
+    asking(section, call);
     QTest::addColumn<Query>("query");
     QTest::addColumn<QString>("expected");
     QTest::addColumn<QStringList>("log");
@@ -218,7 +223,7 @@ inline void columns(Call call = nullptr)
 inline void row(const char *name, const Query &query, const QString &expected,
                 const QStringList &log = {})
 {
-    QTest::newRow(name) << query << expected << log;
+    QTest::newRow(qPrintable(str(g_section) + str(name))) << query << expected << log;
 }
 
 inline void row(const char *name, Args a, const char *expected, const QStringList &log = {})

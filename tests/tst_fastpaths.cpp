@@ -34,18 +34,12 @@ QList<QPair<double, double>> windowsOf(const stSubBand &r)
     const qint64 first = r.StartChannelNo;
     const double mid = literal::freqAt(r, first + (r.StopChannelNo - first) / 2);
     const double step = literal::freqAt(r, first + 1) - literal::freqAt(r, first);
-    return {{r.StartFreq, r.StopFreq},
-            {-kInf, kInf},
-            {kNaN, mid},
-            {mid, kNaN},
-            {-kInf, mid},
-            {mid, kInf},
-            {mid, mid},
-            {mid - step / 2, mid + step / 2},
-            {mid - step, mid + step},
-            {mid + step, mid - step},
-            {mid - 10 * step, mid + 3.3 * step},
+    // clang-format off
+    return {{r.StartFreq, r.StopFreq}, {-kInf, kInf}, {kNaN, mid}, {mid, kNaN}, {-kInf, mid},
+            {mid, kInf}, {mid, mid}, {mid - step / 2, mid + step / 2}, {mid - step, mid + step},
+            {mid + step, mid - step}, {mid - 10 * step, mid + 3.3 * step},
             {std::nextafter(mid, kInf), mid + 100 * step}};
+    // clang-format on
 }
 
 QString at(const QString &tech, const QString &band, double f)
@@ -101,15 +95,6 @@ void compareRecord(const ChBandStore &store, const QString &tech, const QString 
     }
 }
 
-double zigzag(int ch, double base, int)
-{
-    return base + (ch % 7) * 0.5;
-}
-double plateau(int ch, double base, int)
-{
-    return base + (ch / 4) * 0.2;
-}
-
 // Every record of G_CHSTD: its searches as the walk, and at its first, middle
 // and last channel on both links, by enumerator as by the names its text
 // splits into and by names as on `own` (whose maps have no hash index).
@@ -160,8 +145,8 @@ const struct
     double base;
     ChFreqFunc f;
 } kUnusualRecords[] = {
-    {"Zigzag", 0, 40, 100.0, &zigzag},
-    {"Plateau", 0, 40, 100.0, &plateau},
+    {"Zigzag", 0, 40, 100.0, [](int ch, double base, int) { return base + (ch % 7) * 0.5; }},
+    {"Plateau", 0, 40, 100.0, [](int ch, double base, int) { return base + (ch / 4) * 0.2; }},
     {"Wrapping", INT_MAX - 20, INT_MAX, 0.0, &ChBandStore::chstdGetLTEBand1Up},
     {"Wrapping5", 429496700, 429496740, 0.0, &ChBandStore::chstdGetWIMAX_Common3},
     {"Empty", 10, 5, 0.0, &ChBandStore::chstdGetGSM_900},
@@ -196,10 +181,7 @@ private slots:
             QSet<QString> asked;
             for (const auto &r : kUnusualRecords) {
                 const QString name = QLatin1String(r.band);
-                const stSubBand &record =
-                    store->Technologies[1]
-                        .Bands[store->Technologies[1].BandIndexMap.value(name)]
-                        .SubBands[0];
+                const stSubBand &record = literal::band(*store, gsm, name).SubBands[0];
                 compareRecord(*store, gsm, name, record, asked);
                 for (int ch = 0; ch < 12; ++ch) { // along the first channels too
                     const double f = literal::freqAt(record, qint64(r.first) + ch);

@@ -10,10 +10,7 @@
 namespace {
 
 // Maps every channel of a record onto its base frequency.
-double flat(int, double base, int)
-{
-    return base;
-}
+const ChFreqFunc flat = [](int, double base, int) { return base; };
 
 const QString kHuge(1 << 20, QLatin1Char('x')); // a megabyte of name
 const ChBandStore &s = G_CHSTD;
@@ -61,11 +58,11 @@ private slots:
                              101.0 + i, 100.0 + i, 1, i % 2 == 0 ? 1 : 0, f900, false);
         own->SetBandInfo(gsm, str("Negative"), -10, -5, 50.0, 51.0, 50.0, 1, 1, f900, false);
         own->SetBandInfo(gsm, str("Negative"), -3, 4, 60.0, 61.0, 60.0, 1, 0, f900, false);
-        own->SetBandInfo(gsm, str("Flat"), 900, 900, 400.0, 600.0, 500.0, 1, 1, &flat, false);
-        own->SetBandInfo(gsm, str("Flat"), 0, 19, 400.0, 600.0, 500.0, 1, 1, &flat, false);
-        own->SetBandInfo(gsm, str("Near"), 1, 1, 0.5, 2.0, 0.75, 1, 1, &flat, false);
-        own->SetBandInfo(gsm, str("Near"), 2, 2, 0.5, 2.0, 1.5, 1, 1, &flat, false);
-        own->SetBandInfo(gsm, str("Top"), INT_MAX - 2, INT_MAX, 600.0, 800.0, 700.0, 1, 1, &flat,
+        own->SetBandInfo(gsm, str("Flat"), 900, 900, 400.0, 600.0, 500.0, 1, 1, flat, false);
+        own->SetBandInfo(gsm, str("Flat"), 0, 19, 400.0, 600.0, 500.0, 1, 1, flat, false);
+        own->SetBandInfo(gsm, str("Near"), 1, 1, 0.5, 2.0, 0.75, 1, 1, flat, false);
+        own->SetBandInfo(gsm, str("Near"), 2, 2, 0.5, 2.0, 1.5, 1, 1, flat, false);
+        own->SetBandInfo(gsm, str("Top"), INT_MAX - 2, INT_MAX, 600.0, 800.0, 700.0, 1, 1, flat,
                          false);
         own->SetBandInfo(gsm, str("DownFirst"), 100, 200, 900.0, 920.0, 900.0, 1, 0, f900, false);
         own->SetBandInfo(gsm, str("DownFirst"), 300, 400, 950.0, 970.0, 950.0, 1, 1, f900, false);
@@ -76,42 +73,13 @@ private slots:
         own->SetBandInfo(str("TD-SCDMA"), QString(), 5, 6, 10.0, 20.0, 10.0, 1, 0, f900, false);
         own->Technologies[0].BandIndexMap.insert(str("Neg"), -5);
         own->Technologies[0].BandIndexMap.insert(str("Gap"), 12); // slot 11 has no name
-        QCOMPARE(own->GetEnumulator(str("GSM"), str("Empty")), 115);
     }
-
-    // The strict lookup (when the text has two parts) and the check of the
-    // text form fail alike, with one warning naming the first part that is wrong.
-    void names_data()
-    {
-        columns([](auto &s, auto &, auto &t, auto &) {
-            const QStringList parts = t.split(str(" - "));
-            return nums({parts.size() > 1 ? s.GetEnumulator(parts[0], parts[1]) : -1,
-                         s.IsChannelStandard(t)});
-        });
-        const auto names = [](const char *text, int code, const char *what = "",
-                              const QString &value = {}) {
-            const int calls = *what ? str(text).contains(str(" - ")) ? 2 : 1 : 0;
-            row(*text ? text : "empty", {false, text}, qPrintable(nums({code, code >= 0})),
-                warned(invalid(what, value), calls));
-        };
-        names("CDMA - Band 0 (800)", 0);               // code 0 is valid
-        names("GSM - GSM 850 - x", 102);               // parts after the second are ignored
-        names("LTE - x", -1, "Tech Name", str("LTE")); // the band is not looked at
-        names("lte-fdd - Band 1 (2100)", -1, "Tech Name", str("lte-fdd"));
-        names("LTE-FDD - Band 1 (2100-General)", -1, "Band Name", str("Band 1 (2100-General)"));
-        names("GSM - gsm 850", -1, "Band Name", str("gsm 850"));
-        names("GSM - GSM 850 ", -1, "Band Name", str("GSM 850 "));
-        names("GSM -  - GSM 850", -1, "Band Name", str(""));
-        names("say \"GSM\\ - GSM 850", -1, "Tech Name", str("say \\\"GSM\\\\"));
-        names("GSM - Bänd\t€", -1, "Band Name", str("Bänd\\t€"));
-        names("LTE-TDD-Band 40 (2300)", -1, "Channel Standard", str("LTE-TDD-Band 40 (2300)"));
-        names("GSM 850", -1, "Channel Standard", str("GSM 850"));
-        names("", -1, "Channel Standard", str(""));
-    }
-    void names() { checkRow(); }
 
     // Names and numbers agree for every band of the plan, in both directions.
-    void everyBandRoundTrips()
+    // The classifier lists name exactly the time-division bands: all of LTE-TDD
+    // and TD-SCDMA, the single-record WiMAX profiles, and elsewhere only the
+    // global bands (by their name alone).
+    void everyBand()
     {
         LogCapture log;
         forEachBand(s, [](const ChTechnology &tech, const ChBand &band, int code) {
@@ -120,9 +88,16 @@ private slots:
                                   s.GetBandName(code)}),
                      QStringList({b, t + str(" - ") + b, b}));
             QCOMPARE(nums({s.GetNumBand(t), s.GetEnumulator(t, b), s.GetTech(code), s.GetBand(code),
-                           s.IsChannelStandard(code)}),
-                     nums({tech.NumBand, code, code / 100, code % 100, true}));
+                           s.IsChannelStandard(code), s.CheckChannelStandardIsLTETDD(b),
+                           s.CheckChannelStandardIsTDS(b), s.CheckChannelStandardIsWiMax(b)}),
+                     nums({tech.NumBand, code, code / 100, code % 100, true,
+                           code / 100 == 3 || band.IsGlobal, code / 100 == 4,
+                           code / 100 == 6 && band.NumSubBand == 1}));
         });
+        for (const char *other : {"LTE-TDD - Band 40 (2300)", "FBN 9", "band global", ""})
+            QVERIFY(!s.CheckChannelStandardIsLTETDD(str(other))
+                    && !s.CheckChannelStandardIsTDS(str(other))
+                    && !s.CheckChannelStandardIsWiMax(str(other)));
         QCOMPARE(log.take(), QStringList());
     }
 
@@ -150,30 +125,10 @@ private slots:
                                  << str("W ") + invalidEnum(409));
     }
 
-    // The lists name exactly the time-division bands: all of LTE-TDD and
-    // TD-SCDMA, the single-record WiMAX profiles, and elsewhere only the global
-    // bands (by their name alone).
-    void classifiers()
-    {
-        LogCapture log;
-        forEachBand(s, [](const ChTechnology &, const ChBand &band, int code) {
-            const QString &name = band.BandName;
-            QCOMPARE(nums({s.CheckChannelStandardIsLTETDD(name), s.CheckChannelStandardIsTDS(name),
-                           s.CheckChannelStandardIsWiMax(name)}),
-                     nums({code / 100 == 3 || band.IsGlobal, code / 100 == 4,
-                           code / 100 == 6 && band.NumSubBand == 1}));
-        });
-        for (const char *other : {"LTE-TDD - Band 40 (2300)", "FBN 9", "band global", ""})
-            QVERIFY(!s.CheckChannelStandardIsLTETDD(str(other))
-                    && !s.CheckChannelStandardIsTDS(str(other))
-                    && !s.CheckChannelStandardIsWiMax(str(other)));
-        QCOMPARE(log.take(), QStringList());
-    }
-
-    void limits_data()
+    void byNames_data()
     {
         // MHz low and high, channels first and last, records, record 0's MHz and flag.
-        columns([](auto &s, auto &a, auto &t, auto &b) {
+        columns("limits: ", [](auto &s, auto &a, auto &t, auto &b) {
             return nums({s.GetStartFreq(t, b, a.link), s.GetStopFreq(t, b, a.link),
                          s.GetStartChannelNo(t, b, a.link), s.GetStopChannelNo(t, b, a.link),
                          s.GetNumSubBand(t, b), s.GetStartFreq(t, b), s.IsUplinkOnly(t, b)});
@@ -199,12 +154,8 @@ private slots:
         row("negative link 2", {1, "GSM", "Negative", 2}, "0 0 -3 4 2 50 0");
         row("no records", {1, "GSM", "Empty", 1}, "0 0 0 0 0 0 0");
         row("link INT_MIN", {0, "GSM", "GSM 850", INT_MIN}, "0 0 128 251 2 824 0");
-    }
-    void limits() { checkRow(); }
 
-    void channelToFreq_data()
-    {
-        columns([](auto &s, auto &a, auto &t, auto &b) {
+        asking("GetFreq: ", [](auto &s, auto &a, auto &t, auto &b) {
             return nums({s.GetFreq(t, b, a.link, a.channel),
                          s.GetFreqNoLimit(t, b, a.link, a.channel),
                          s.IsExistChannelNo(t, b, a.link, a.channel)});
@@ -236,15 +187,9 @@ private slots:
         row("INT_MIN wraps", {0, "GSM", "GSM 850", 1, INT_MIN}, "-1 429497528.2 0");
         row("link INT_MIN", {0, "GSM", "GSM 850", INT_MIN, 128}, "-1 -1 0");
         row("TDD link INT_MIN", {0, "LTE-TDD", "Band 40 (2300)", INT_MIN, 38650}, "2300 2300 0");
-        row("TDD link INT_MAX", {0, "LTE-TDD", "Band 40 (2300)", INT_MAX, 39649},
-            "2399.9 2399.9 0");
-    }
-    void channelToFreq() { checkRow(); }
 
-    void stopInSample_data()
-    {
         // Note the argument order: channel before link.
-        columns([](auto &s, auto &a, auto &t, auto &b) {
+        asking("InSample: ", [](auto &s, auto &a, auto &t, auto &b) {
             return QString::number(s.GetStopChannelNo_InSample(t, b, a.channel, a.link));
         });
         row("in no record: record 0", {0, "GSM", "GSM 850", 1, 300}, "251");
@@ -259,20 +204,15 @@ private slots:
         row("last record", {0, "LTE-FDD", "Band Global", 1, 68950}, "68985");
         // The unwritten neighbour (link -9, channels 0 to 0) is a candidate too.
         row("unwritten neighbour", {0, "GSM", "GSM 850", -9, 0}, "0");
-        row("100: shadowed", {1, "GSM", "Hundred", 1, 1012}, "1005");
         row("100: last record", {1, "GSM", "Hundred", 1, 1992}, "1995");
         row("100: beyond the array", {1, "GSM", "Hundred", -9, 0}, "0");
         row("no records", {1, "GSM", "Empty", -9, 0}, "0");
         row("channel INT_MAX, link INT_MIN", {0, "GSM", "GSM 850", INT_MIN, INT_MAX}, "251");
-    }
-    void stopInSample() { checkRow(); }
 
-    // A miss writes its one line to standard output, never to the Qt log,
-    // the value in six digits.
-    void channelOfFreq_data()
-    {
+        // A miss writes its one line to standard output, never to the Qt log,
+        // the value in six digits.
         // The channel argument is the preferred one.
-        columns([](auto &s, auto &a, auto &t, auto &b) {
+        asking("GetChNumFromFreq: ", [](auto &s, auto &a, auto &t, auto &b) {
             return QString::number(s.GetChNumFromFreq(t, b, a.link, a.mhz, a.channel));
         });
         // Answers on the band plan are held to the literal walk (tst_fastpaths);
@@ -290,13 +230,9 @@ private slots:
             printed("824.2"));
         row("preference INT_MAX", {0, "GSM", "GSM 850", 1, INT_MAX, 824.2}, "128");
         row("largest double", {0, "GSM", "GSM 850", 1, 0, DBL_MAX}, "-1", printed("1.79769e+308"));
-    }
-    void channelOfFreq() { checkRow(); }
 
-    // Uplink start channel minus downlink start channel; the link is not read.
-    void offset_data()
-    {
-        columns([](auto &s, auto &a, auto &t, auto &b) {
+        // Uplink start channel minus downlink start channel; the link is not read.
+        asking("offset: ", [](auto &s, auto &a, auto &t, auto &b) {
             return QString::number(s.GetOffsetChUpDown(t, b, a.channel, a.link));
         });
         row("up channel, link not consulted", {0, "LTE-FDD", "Band 1 (2100)", 7, 18300}, "18000");
@@ -317,14 +253,41 @@ private slots:
         row("unlisted name, same band", {1, "WIMAX", "ProfR1", 1, 0}, "-100");
         row("unlisted name, down", {1, "WIMAX", "", 0, 105}, "-100");
     }
-    void offset() { checkRow(); }
+    void byNames() { checkRow(); }
 
-    void textForms_data()
+    void byTextAndEnum_data()
     {
+        // The strict lookup (when the text has two parts) and the check of the
+        // text form fail alike, with one warning naming the first part that is wrong.
+        columns("names: ", [](auto &s, auto &, auto &t, auto &) {
+            const QStringList parts = t.split(str(" - "));
+            return nums({parts.size() > 1 ? s.GetEnumulator(parts[0], parts[1]) : -1,
+                         s.IsChannelStandard(t)});
+        });
+        const auto names = [](const char *text, int code, const char *what = "",
+                              const QString &value = {}) {
+            const int calls = *what ? str(text).contains(str(" - ")) ? 2 : 1 : 0;
+            row(*text ? text : "empty", {false, text}, qPrintable(nums({code, code >= 0})),
+                warned(invalid(what, value), calls));
+        };
+        names("CDMA - Band 0 (800)", 0);               // code 0 is valid
+        names("GSM - GSM 850 - x", 102);               // parts after the second are ignored
+        names("LTE - x", -1, "Tech Name", str("LTE")); // the band is not looked at
+        names("lte-fdd - Band 1 (2100)", -1, "Tech Name", str("lte-fdd"));
+        names("LTE-FDD - Band 1 (2100-General)", -1, "Band Name", str("Band 1 (2100-General)"));
+        names("GSM - gsm 850", -1, "Band Name", str("gsm 850"));
+        names("GSM - GSM 850 ", -1, "Band Name", str("GSM 850 "));
+        names("GSM -  - GSM 850", -1, "Band Name", str(""));
+        names("say \"GSM\\ - GSM 850", -1, "Tech Name", str("say \\\"GSM\\\\"));
+        names("GSM - Bänd\t€", -1, "Band Name", str("Bänd\\t€"));
+        names("LTE-TDD-Band 40 (2300)", -1, "Channel Standard", str("LTE-TDD-Band 40 (2300)"));
+        names("GSM 850", -1, "Channel Standard", str("GSM 850"));
+        names("", -1, "Channel Standard", str(""));
+
         // On a channel standard text, with the link as a number or, given in
         // place of the band, as a direction word; the channel is also the
         // preferred one.
-        columns([](auto &s, auto &a, auto &t, auto &b) {
+        asking("text: ", [](auto &s, auto &a, auto &t, auto &b) {
             const int c = a.channel;
             return a.band ? nums({s.GetFreq(t, b, c), s.GetChNumFromFreq(t, b, a.mhz, c),
                                   s.GetOffsetChUpDown(t, b, c)})
@@ -345,24 +308,20 @@ private slots:
         row("no separator", {0, "GSM 850", nullptr, 1, 128, 824.2}, "-1 -1 -1", invalid3);
         // The split fails before the frequency is looked at.
         row("no separator, NaN", {0, "GSM 850", "Forward", 1, 128, kNaN}, "-1 -1 -1", invalid3);
-    }
-    void textForms() { checkRow(); }
 
-    // Every member by enumerator: an invalid code (just past each
-    // technology's bands, past the technologies, negative, the int ends) gets
-    // the failure values, true from IsUplinkOnly but false from
-    // IsExistChannelNo, and a warning from each member but the reverse
-    // conversion; a valid one whose band has no record gets the name forms'
-    // empty answers. Valid codes of the plan are held to the name forms by
-    // tst_fastpaths.
-    void byEnum_data()
-    {
-        columns([](auto &s, auto &a, auto &, auto &) {
+        // Every member by enumerator: an invalid code (just past each
+        // technology's bands, past the technologies, negative, the int ends) gets
+        // the failure values, true from IsUplinkOnly but false from
+        // IsExistChannelNo, and a warning from each member but the reverse
+        // conversion; a valid one whose band has no record gets the name forms'
+        // empty answers. Valid codes of the plan are held to the name forms by
+        // tst_fastpaths.
+        asking("enum: ", [](auto &s, auto &a, auto &, auto &) {
             Answers answers;
             answers << s.GetTech(a.code) << s.GetBand(a.code) << s.IsChannelStandard(a.code);
             askByCode({s, {}, {}, a.code, a.link, a.channel, a.mhz}, answers);
             return s.GetEnumulator(a.code) + QLatin1Char('|') + s.GetBandName(a.code)
-                   + QLatin1Char('|') + text(answers);
+                   + QLatin1Char('|') + nums(answers);
         });
         row("115, no records", {1, nullptr, nullptr, 1, 0, 0.0, 0, 115},
             "GSM - Empty|Empty|1 15 1 0 0 0 0 -1 300000 0 0 0 0 0 -1", printed("0"));
@@ -372,12 +331,8 @@ private slots:
              {11, 109, 238, 317, 619, 736, 800, 900, -1, -100, -150, INT_MIN, INT_MAX})
             row(qPrintable(QString::number(code)), {0, nullptr, nullptr, 1, 128, 824.2, 0, code},
                 "|None|-1 -1 0 -1 -1 -1 -1 -1 -1 1 -1 -1 -1 0 -1", warned(invalidEnum(code), 16));
-    }
-    void byEnum() { checkRow(); }
 
-    void badInput_data()
-    {
-        columns();
+        asking("bad input: ", nullptr);
         const QString fdd = str("LTE-FDD"), b1 = str("Band 1 (2100)");
         const QString badBand = QLatin1String("W ") + invalid("Band Name", kHuge);
         row("huge names, strict",
@@ -422,7 +377,7 @@ private slots:
             nums({INT_MIN * 0.2, 0, 11, INT_MIN, INT_MAX, 0, 1, INT_MAX, -1, kNaN, 0, 1}),
             {str("D [ChStd]  Version :  " SAISKUKO_VERSION_STR), str("D AvailableChannels :  11")});
     }
-    void badInput() { checkRow(); }
+    void byTextAndEnum() { checkRow(); }
 };
 
 QTEST_APPLESS_MAIN(TestQueries)

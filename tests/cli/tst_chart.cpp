@@ -25,12 +25,7 @@ QList<ChartBox> textBoxes(const ChartLayout &layout)
 ChartLayout chart(double low, double high, QList<saiskuko::Technology> techs = {},
                   QList<double> marks = {})
 {
-    ChartRequest request;
-    request.lowMHz = low;
-    request.highMHz = high;
-    request.techs = techs;
-    request.marksMHz = marks;
-    return layoutChart(request);
+    return layoutChart({low, high, techs, marks});
 }
 
 } // namespace
@@ -40,58 +35,52 @@ class TestChart : public QObject
     Q_OBJECT
 
 private slots:
-    void ticks_data()
-    {
-        QTest::addColumn<double>("low");
-        QTest::addColumn<double>("high");
-        QTest::addColumn<QString>("ticks");
-        QTest::newRow("5 MHz") << 3400.0 << 3405.0 << "3400 3401 3402 3403 3404 3405";
-        QTest::newRow("odd edges")
-            << 881.3 << 882.9 << "881.4 881.6 881.8 882 882.2 882.4 882.6 882.8";
-        QTest::newRow("300 MHz") << 700.0 << 1000.0 << "700 750 800 850 900 950 1000";
-        QTest::newRow("6 GHz") << 0.0 << 6000.0 << "0 1000 2000 3000 4000 5000 6000";
-        QTest::newRow("100 GHz") << 0.0 << 100000.0 << "0 20000 40000 60000 80000 100000";
-    }
     void ticks()
     {
-        QFETCH(double, low);
-        QFETCH(double, high);
-        QStringList got;
-        for (double tick : chartTicks(low, high))
-            got << QString::number(tick);
-        QTEST(got.join(QLatin1Char(' ')), "ticks");
+        const struct
+        {
+            double low, high;
+            const char *ticks;
+        } rows[] = {{3400.0, 3405.0, "3400 3401 3402 3403 3404 3405"},
+                    {881.3, 882.9, "881.4 881.6 881.8 882 882.2 882.4 882.6 882.8"},
+                    {700.0, 1000.0, "700 750 800 850 900 950 1000"},
+                    {0.0, 6000.0, "0 1000 2000 3000 4000 5000 6000"},
+                    {0.0, 100000.0, "0 20000 40000 60000 80000 100000"}};
+        for (const auto &row : rows) {
+            QStringList got;
+            for (double tick : chartTicks(row.low, row.high))
+                got << QString::number(tick);
+            QCOMPARE(got.join(QLatin1Char(' ')), QString::fromUtf8(row.ticks));
+        }
     }
 
     // Which bands, in which order and with which kinds of bar (Uplink,
     // Downlink, Time-division): grouped by technology in slot order, "Band
     // Global" and placeholders left out, the two links of a TDD band drawn once.
-    void rows_data()
-    {
-        QTest::addColumn<double>("low");
-        QTest::addColumn<double>("high");
-        QTest::addColumn<int>("tech");
-        QTest::addColumn<QString>("rows");
-        // P-GSM's uplink starts at 890: touching the window's edge is not in it.
-        QTest::newRow("GSM") << 880.0 << 890.0 << int(saiskuko::Technology::Gsm)
-                             << "GSM 850 [102] D|E-GSM 900 [104] U|R-GSM 900 [105] U|"
-                                "R-GSM 900 (China) [106] U";
-        QTest::newRow("LTE-TDD") << 2310.0 << 2390.0 << int(saiskuko::Technology::LteTdd)
-                                 << "Band 40 (2300) [308] T";
-        QTest::newRow("NR") << 3400.0 << 3405.0 << int(saiskuko::Technology::Nr)
-                            << "Band n77 (TD 3700) [723] T|Band n78 (TD 3500) [724] T";
-    }
     void rows()
     {
-        QFETCH(double, low);
-        QFETCH(double, high);
-        QFETCH(int, tech);
-        QStringList rows;
-        for (const ChartRow &row : chart(low, high, {saiskuko::Technology(tech)}).rows) {
-            rows << row.label + QLatin1Char(' ');
-            for (const ChartBar &bar : row.bars)
-                rows.last() += QLatin1Char("UDT"[int(bar.kind)]);
+        using saiskuko::Technology;
+        const struct
+        {
+            double low, high;
+            Technology tech;
+            const char *rows;
+        } tables[] = {
+            // P-GSM's uplink starts at 890: touching the window's edge is not in it.
+            {880.0, 890.0, Technology::Gsm,
+             "GSM 850 [102] D|E-GSM 900 [104] U|R-GSM 900 [105] U|R-GSM 900 (China) [106] U"},
+            {2310.0, 2390.0, Technology::LteTdd, "Band 40 (2300) [308] T"},
+            {3400.0, 3405.0, Technology::Nr,
+             "Band n77 (TD 3700) [723] T|Band n78 (TD 3500) [724] T"}};
+        for (const auto &table : tables) {
+            QStringList rows;
+            for (const ChartRow &row : chart(table.low, table.high, {table.tech}).rows) {
+                rows << row.label + QLatin1Char(' ');
+                for (const ChartBar &bar : row.bars)
+                    rows.last() += QLatin1Char("UDT"[int(bar.kind)]);
+            }
+            QCOMPARE(rows.join(QLatin1Char('|')), QString::fromUtf8(table.rows));
         }
-        QTEST(rows.join(QLatin1Char('|')), "rows");
     }
 
     // The whole plan: every real record of every band but the global ones is

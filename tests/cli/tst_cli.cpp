@@ -22,8 +22,8 @@ Run saiskuko(const QString &line, const QByteArray &input = {}, const QString &o
 {
     QProcess process;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.remove(
-        QStringLiteral("LD_LIBRARY_PATH")); // only the installed layout may supply the library
+    // Only the installed layout may supply the library.
+    environment.remove(QStringLiteral("LD_LIBRARY_PATH"));
     process.setProcessEnvironment(environment);
     if (!outputFile.isEmpty())
         process.setStandardOutputFile(outputFile);
@@ -38,22 +38,10 @@ Run saiskuko(const QString &line, const QByteArray &input = {}, const QString &o
     return run;
 }
 
-// One JSON document per line of a batch run with --json.
-QList<QJsonObject> batchJson(const QStringList &lines)
-{
-    QList<QJsonObject> documents;
-    const Run run =
-        saiskuko(QStringLiteral("--json batch"), lines.join(QLatin1Char('\n')).toUtf8());
-    for (const QString &line : run.out.split(QLatin1Char('\n'), Qt::SkipEmptyParts))
-        documents << QJsonDocument::fromJson(line.toUtf8()).object();
-    return documents;
-}
-
 QString installed(const char *path)
 {
-    QFile file(QFileInfo(qEnvironmentVariable("SAISKUKO_CLI"))
-                   .dir()
-                   .filePath(QLatin1String("../share/") + QLatin1String(path)));
+    QFile file(QFileInfo(qEnvironmentVariable("SAISKUKO_CLI")).path() + QLatin1String("/../share/")
+               + QLatin1String(path));
     return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
 }
 
@@ -71,29 +59,28 @@ private slots:
         QTest::addColumn<int>("status");
         QTest::addColumn<QString>("out");
         QTest::addColumn<QString>("err");
-        const auto row = [](const char *arguments, int status, const char *out, const char *err) {
+        const auto row = [](const char *arguments, int status, const char *out,
+                            const char *err = "") {
             QTest::newRow(arguments) << QString::fromUtf8(arguments) << status
                                      << QString::fromUtf8(out) << QString::fromUtf8(err);
         };
         // The band named as the library reads names (its own test covers the forms).
         const char *band1 = "LTE-FDD - Band 1 (2100) [201]\nCHANNEL  UL MHZ  DL MHZ  PAIRED\n"
                             "300      -       2140    UL 18300 1950\n";
-        row("freq LTE:1 300", 0, band1, "");
-        row("freq|LTE-FDD - Band 1 (2100)|300", 0, band1, "");
+        row("freq LTE:1 300", 0, band1); // quiet unless verbose
+        row("--verbose freq LTE:1 300", 0, band1, "Version :  " SAISKUKO_VERSION_STR);
+        row("-q freq LTE:1 300", 0, band1);
         row("band N78", 0,
             "5G NR - Band n78 (TD 3500) [724]\nDIR  CHANNELS       EDGES MHZ  FIRST MHZ  LAST "
             "MHZ  STEP MHZ  DUPLEX  PAIR OFFSET\nDL   620000-653333  3300-3800  3300       "
-            "3799.995  0.015     TDD               -\n",
-            "");
+            "3799.995  0.015     TDD               -\n");
         // A TDD band shares its channels between the directions in every command.
         row("channels NR:n78 3400 3400.02 --ul", 0,
             "5G NR - Band n78 (TD 3500) [724], 3400 to 3400.02 MHz\nDIR   FIRST    LAST  COUNT  "
-            "FIRST MHZ  LAST MHZ\nUL   626667  626668      2  3400.005   3400.02\n",
-            "");
+            "FIRST MHZ  LAST MHZ\nUL   626667  626668      2  3400.005   3400.02\n");
         row("which 630000 --ul", 0,
             "CHANNEL  CODE  TECH   BAND                DIR  MHZ\n 630000   723  5G NR  Band n77 "
-            "(TD 3700)  UL   3450\n 630000   724  5G NR  Band n78 (TD 3500)  UL   3450\n",
-            "");
+            "(TD 3700)  UL   3450\n 630000   724  5G NR  Band n78 (TD 3500)  UL   3450\n");
         row("search 2010 --ul", 0,
             "MHZ   CODE  TECH      BAND                DIR  CHANNEL  CHANNEL MHZ  OFFSET MHZ\n"
             "2010   220  LTE-FDD   Band 23 (2100)      UL     25600  2010         0\n"
@@ -101,32 +88,27 @@ private slots:
             "2010   711  5G NR     Band n34 (TD 2000)  UL    402000  2010         0\n"
             "2010   230  LTE-FDD   Band 65 (2100)      UL    131971  2009.9       -0.1\n"
             "2010   404  TD-SCDMA  FBN 4               UL       142  2009.2       -0.8\n"
-            "2010   405  TD-SCDMA  FBN 5               UL         0  2010.8       0.8\n",
-            "");
+            "2010   405  TD-SCDMA  FBN 5               UL         0  2010.8       0.8\n");
         // A printed frequency converts back, also past a record's stated edges.
         row("channel CDMA:2 872.0125", 0,
-            "CDMA - Band 2 (TACS) [2]\nMHZ       UL CHANNEL  DL CHANNEL\n872.0125  1329        -\n",
-            "");
+            "CDMA - Band 2 (TACS) [2]\nMHZ       UL CHANNEL  DL CHANNEL\n872.0125  1329        "
+            "-\n");
         row("channel NR:n1 2150 2140.0001 --nearest --dl", 0,
             "5G NR - Band n1 (2100) [701]\nMHZ        DL CHANNEL  DL OFFSET MHZ\n"
             "2150       430000      0\n2140.0001  428000      -0.0001\n",
             "DL channel 430000 (2150 MHz) lies outside the stated edges");
         // Every channel centred on the frequency; --preferred keeps one of them.
         row("channel CDMA:5 455.65 --ul", 0,
-            "CDMA - Band 5 (450) [5]\nMHZ     UL CHANNEL\n455.65  227,1256\n", "");
+            "CDMA - Band 5 (450) [5]\nMHZ     UL CHANNEL\n455.65  227,1256\n");
         row("channel CDMA:5 455.65 --ul --preferred 1256", 0,
-            "CDMA - Band 5 (450) [5]\nMHZ     UL CHANNEL\n455.65  1256\n", "");
-        row("channel FDD:global 1950 --dl --preferred 8240", 0,
-            "LTE-FDD - Band Global [200]\nMHZ   DL CHANNEL\n1950  8240\n", "");
-        row("table", 0, nullptr, "");
-        row("--version", 0, "saiskuko " SAISKUKO_VERSION_STR "\n", "");
+            "CDMA - Band 5 (450) [5]\nMHZ     UL CHANNEL\n455.65  1256\n");
+        row("table", 0, nullptr);
+        row("--version", 0, "saiskuko " SAISKUKO_VERSION_STR "\n");
         // Bad input: 2; a valid query without result: 1.
-        row("freq LTE:1-2 1", 2, "", "LTE-FDD or LTE-TDD has no band \"1-2\"; bands: ");
         row("freq GSM:900 1", 2, "",
             "it matches: GSM - P-GSM 900 [103], GSM - E-GSM 900 [104], GSM - R-GSM 900 [105], "
             "GSM - R-GSM 900 (China) [106]");
         row("freq LTE:1 -3", 2, "", "channel \"-3\" must not be negative");
-        row("channel LTE:1 -5", 2, "", "frequency \"-5\" must be positive");
         row("channel LTE:1 -inf", 2, "", "frequency \"-inf\" must be positive");
         row("search inf", 2, "", "frequency \"inf\" is out of range");
         row("freq 12345678901234567890123456789012345678901234567890 1", 2, "",
@@ -137,10 +119,8 @@ private slots:
         row("channel LTE:1 2140.05", 1, "", "2140.05 MHz is not a channel centre");
         row("table 2", 1, "", "mode 2 has no band table");
         row("chart 1000 700", 2, "", "chart: LOW must be below HIGH");
-        row("chart 700 nan", 2, "", "frequency \"nan\" is out of range");
         row("chart 700 1000 --mark 1200", 2, "", "mark \"1200\" lies outside the chart's window");
         row("chart 700 1000 --tech XYZ", 2, "", "XYZ");
-        row("freq LTE:1 300 --mark 5", 2, "", "freq does not take --mark");
         row("chart 0.1 0.5", 1, "", "no band has a record between 0.1 and 0.5 MHz");
     }
 
@@ -157,98 +137,29 @@ private slots:
         QVERIFY(run.err.size() < 3000); // candidates listed, arguments cut
     }
 
-    // The first, middle and last channel of every record, in each direction
-    // the band answers for, converts to a frequency and back.
-    void everyPrintedFrequencyConvertsBack()
-    {
-        QStringList bands, freqLines, expected;
-        for (int code = 0; code < 800; ++code)
-            bands << QStringLiteral("band %1").arg(code);
-        for (const QJsonObject &band : batchJson(bands)) {
-            const QJsonObject result = band[QLatin1String("result")].toObject();
-            const QString code =
-                QString::number(result[QLatin1String("band")][QLatin1String("code")].toInt());
-            const bool tdd =
-                result[QLatin1String("band")][QLatin1String("duplex")] == QLatin1String("TDD");
-            for (const QJsonValue &record : result[QLatin1String("records")].toArray()) {
-                const QJsonArray range = record[QLatin1String("channels")].toArray();
-                const int first = range[0].toInt(), last = range[1].toInt();
-                const QString own = record[QLatin1String("direction")].toString();
-                for (const QString &direction :
-                     tdd ? QStringList{QStringLiteral("uplink"), QStringLiteral("downlink")}
-                         : QStringList{own}) {
-                    for (int channel : {first, first + (last - first) / 2, last}) {
-                        freqLines << QStringLiteral("freq %1 %2 --%3")
-                                         .arg(code)
-                                         .arg(channel)
-                                         .arg(direction.left(1) == QLatin1String("u")
-                                                  ? QLatin1String("ul")
-                                                  : QLatin1String("dl"));
-                        expected << QStringLiteral("%1 %2 %3").arg(code, direction).arg(channel);
-                    }
-                }
-            }
-        }
-        QVERIFY(expected.size() > 1000);
-        QStringList channelLines;
-        const QList<QJsonObject> freqs = batchJson(freqLines);
-        QCOMPARE(freqs.size(), expected.size());
-        for (int i = 0; i < freqs.size(); ++i) {
-            const QStringList parts = expected[i].split(QLatin1Char(' '));
-            const QJsonValue mhz =
-                freqs[i][QLatin1String("result")][QLatin1String("results")][0][parts[1]];
-            QVERIFY2(mhz.isDouble(), qPrintable(freqLines[i]));
-            // The text form, as freq prints it; --preferred where two channels share a centre.
-            channelLines << QStringLiteral("channel %1 %2 %3 --preferred %4")
-                                .arg(parts[0], QString::number(mhz.toDouble(), 'f', 6),
-                                     freqLines[i].section(QLatin1Char(' '), 3), parts[2]);
-        }
-        const QList<QJsonObject> channels = batchJson(channelLines);
-        for (int i = 0; i < channels.size(); ++i) {
-            const QStringList parts = expected[i].split(QLatin1Char(' '));
-            QVERIFY2(channels[i][QLatin1String("result")][QLatin1String("results")][0][parts[1]]
-                             [QLatin1String("channel")]
-                                 .toInt(-1)
-                         == parts[2].toInt(),
-                     qPrintable(channelLines[i]));
-        }
-    }
-
-    // JSON lists every channel at the frequency; "channel" is the one shown,
-    // the preferred one where it is among them.
-    void everyChannelAtAFrequency()
-    {
-        const QList<QJsonObject> documents =
-            batchJson({QStringLiteral("channel CDMA:5 455.65 --ul"),
-                       QStringLiteral("channel CDMA:5 455.65 --ul --preferred 1256"),
-                       QStringLiteral("channel CDMA:5 455.65 --ul --preferred 5")});
-        QCOMPARE(documents.size(), 3);
-        for (int i = 0; i < 3; ++i) {
-            const QJsonValue hit = documents[i][QLatin1String("result")][QLatin1String("results")]
-                                            [0][QLatin1String("uplink")];
-            QCOMPARE(hit[QLatin1String("channels")].toArray(), QJsonArray({227, 1256}));
-            QCOMPARE(hit[QLatin1String("channel")].toInt(), i == 1 ? 1256 : 227);
-        }
-    }
-
     // Every command answers in one JSON shape, errors too; numbers keep every digit.
     void oneJsonShape()
     {
-        const QList<QJsonObject> documents = batchJson(
-            {QStringLiteral("techs"), QStringLiteral("bands GSM"), QStringLiteral("band 201"),
-             QStringLiteral("freq WCDMA:1 10701"), QStringLiteral("channel LTE:1 2140"),
-             QStringLiteral("search 1950"), QStringLiteral("channels LTE:1 2140 2141"),
-             QStringLiteral("table 6"), QStringLiteral("which 1"), QStringLiteral("freq x 1"),
-             QStringLiteral("--version")});
-        QCOMPARE(documents.size(), 11);
+        const QString lines = QStringLiteral(
+            "techs\nbands GSM\nband 201\nfreq WCDMA:1 10701\nchannel LTE:1 2140\nsearch 1950\n"
+            "channels LTE:1 2140 2141\ntable 6\nwhich 1\nfreq x 1\n--version\n"
+            "channel CDMA:5 455.65 --ul --preferred 5");
+        QList<QJsonObject> documents;
+        for (const QString &line : saiskuko(QStringLiteral("--json batch"), lines.toUtf8())
+                                       .out.split(QLatin1Char('\n'), Qt::SkipEmptyParts))
+            documents << QJsonDocument::fromJson(line.toUtf8()).object();
+        QCOMPARE(documents.size(), 12);
         for (const QJsonObject &document : documents)
-            QCOMPARE(document.keys(),
-                     QStringList({QStringLiteral("arguments"), QStringLiteral("command"),
-                                  QStringLiteral("notes"), QStringLiteral("result"),
-                                  QStringLiteral("status")}));
+            QCOMPARE(document.keys().join(QLatin1Char(' ')),
+                     QStringLiteral("arguments command notes result status"));
         QVERIFY(saiskuko(QStringLiteral("--json freq WCDMA:1 10701"))
                     .out.contains(QLatin1String("\"downlink\": 2140.2000000000003,")));
         QCOMPARE(documents[9][QLatin1String("status")].toInt(), 2);
+        // Every channel at the frequency; the one shown is the first, the preferred not among them.
+        const QJsonValue hit = documents.at(
+            11)[QLatin1String("result")][QLatin1String("results")][0][QLatin1String("uplink")];
+        QCOMPARE(hit[QLatin1String("channels")].toArray(), QJsonArray({227, 1256}));
+        QCOMPARE(hit[QLatin1String("channel")].toInt(), 227);
     }
 
     // Lines are answered one by one; a bad one is reported by number and sets the status.
@@ -267,20 +178,11 @@ private slots:
                 "MHz is not a channel centre of LTE-FDD - Band 1 (2100) (try: --nearest)\n"));
     }
 
-    void quietUnlessVerbose()
-    {
-        QCOMPARE(saiskuko(QStringLiteral("freq LTE:1 300")).err, QString());
-        QVERIFY(saiskuko(QStringLiteral("--verbose freq LTE:1 300"))
-                    .err.contains(QLatin1String("Version :  " SAISKUKO_VERSION_STR)));
-        QCOMPARE(saiskuko(QStringLiteral("-q freq LTE:1 300")).status, 0);
-    }
-
     void failedWriteIsAnError()
     {
         if (!QFile::exists(QStringLiteral("/dev/full")))
             QSKIP("no /dev/full");
-        QCOMPARE(saiskuko(QStringLiteral("freq LTE:1 300"), {}, QStringLiteral("/dev/full")).status,
-                 3);
+        QCOMPARE(saiskuko(QStringLiteral("band 201"), {}, QStringLiteral("/dev/full")).status, 3);
     }
 
     // The man page and the completion name every command the help lists.
