@@ -4,6 +4,7 @@
 #include "program.h"
 
 #include <QtCore/QCoreApplication>
+#include <QtCore/QIODevice>
 #include <QtCore/QTextStream>
 
 #include <cstdio>
