@@ -61,12 +61,13 @@ QString table(const QList<Column> &columns, const QList<Row> &rows)
 
 } // namespace
 
-QList<Column> columns(std::initializer_list<const char *> specs)
+QList<Column> columns(std::initializer_list<const char *> descriptions)
 {
     QList<Column> list;
-    for (const char *spec : specs) {
-        const bool right = spec[0] == '>';
-        const QStringList parts = QString::fromLatin1(spec + int(right)).split(QLatin1Char('|'));
+    for (const char *description : descriptions) {
+        const bool right = description[0] == '>';
+        const QStringList parts =
+            QString::fromLatin1(description + int(right)).split(QLatin1Char('|'));
         list.append({parts[0], parts.value(1), right});
     }
     return list;

@@ -40,7 +40,7 @@ struct Column
 };
 
 // Columns written "HEADER|key", ">HEADER|key" for one aligned right.
-QList<Column> columns(std::initializer_list<const char *> specs);
+QList<Column> columns(std::initializer_list<const char *> descriptions);
 
 // One cell: its JSON value, and the text shown for it where that is not the
 // value itself (null shows "-", a number as formatMHz does, a string as it is).
