@@ -18,6 +18,8 @@
 #include <cmath>
 #include <utility>
 
+class ChBand;
+
 /// The typed API. Every function is safe to call from any number of threads
 /// at once, as long as no thread registers records into #G_CHSTD meanwhile.
 namespace saiskuko {
@@ -216,7 +218,10 @@ private:
     double centreOrNaN(Link link, int channel) const;
     /// Why frequency() has no answer for @p channel.
     Result<double> noFrequency(Link link, int channel) const;
-    Band(int tech, int band) : m_tech(qint16(tech)), m_band(qint16(band)) {}
+    Band(int tech, int band, const ChBand *data)
+        : m_data(data), m_tech(qint16(tech)), m_band(qint16(band))
+    {}
+    const ChBand *m_data = nullptr; // in the store, which never moves or shrinks
     qint16 m_tech = -1;
     qint16 m_band = -1;
 };

@@ -334,8 +334,8 @@ inline double firstCentre(const ChBand &data, int records, Link link, int channe
 {
     for (int i = 0; i < records; ++i) {
         const stSubBand &r = data.SubBands[i];
-        if (holdsChannel(r, channel) && !isPlaceholder(r)
-            && servesLinkOfBand(r, int(link), duplex == Duplex::Tdd))
+        if (holdsChannel(r, channel) && servesLinkOfBand(r, int(link), duplex == Duplex::Tdd)
+            && !isPlaceholder(r))
             return recordFreq(r, channel);
     }
     return std::numeric_limits<double>::quiet_NaN();
@@ -353,14 +353,13 @@ Q_NEVER_INLINE double centreOnceDecided(int tech, int slot, const ChBand &data, 
 
 double Band::centreOrNaN(Link link, int channel) const
 {
-    const ChBand *data = bandData(*this);
-    if (Q_UNLIKELY(!data))
+    if (Q_UNLIKELY(!m_data))
         return std::numeric_limits<double>::quiet_NaN();
-    const int n = ::recordCount(*data);
+    const int n = ::recordCount(*m_data);
     Duplex duplex;
     if (Q_UNLIKELY(!keptDuplex(m_tech, m_band, n, &duplex)))
-        return centreOnceDecided(m_tech, m_band, *data, n, link, channel);
-    return firstCentre(*data, n, link, channel, duplex);
+        return centreOnceDecided(m_tech, m_band, *m_data, n, link, channel);
+    return firstCentre(*m_data, n, link, channel, duplex);
 }
 
 Result<double> Band::noFrequency(Link link, int channel) const

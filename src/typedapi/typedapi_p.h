@@ -19,9 +19,13 @@ namespace saiskuko {
 class BandAccess
 {
 public:
-    static Band make(int tech, int band) { return Band(tech, band); }
+    static Band make(int tech, int band)
+    {
+        return Band(tech, band, &G_CHSTD.Technologies[tech].Bands[band]);
+    }
     static int tech(const Band &band) { return band.m_tech; }
     static int slot(const Band &band) { return band.m_band; }
+    static const ChBand *data(const Band &band) { return band.m_data; }
 };
 
 namespace typed {
@@ -31,15 +35,10 @@ inline ChBandStore &store()
     return G_CHSTD;
 }
 
-// The band's data, or null for an invalid band or a slot the store does not use.
+// The band's data, or null for an invalid band.
 inline const ChBand *bandData(const Band &band)
 {
-    const int t = BandAccess::tech(band);
-    const int b = BandAccess::slot(band);
-    if (t < 0 || t >= kNumTechSlots)
-        return nullptr;
-    const ChTechnology &tech = store().Technologies[t];
-    return b >= 0 && b < tech.NumBand ? &tech.Bands[b] : nullptr;
+    return BandAccess::data(band);
 }
 
 // Per band slot of the store: (record count + 1) << 2 | duplex, 0 before the
