@@ -293,6 +293,16 @@ private slots:
         QCOMPARE(shown(band("bc5").channelsAt(Link::Up, 455.65)), str("227 1256"));
         QVERIFY(!Band().frequency(Link::Down, 0).ok() && Band().standard().isEmpty());
         QVERIFY(lte1.withinEdges(Link::Down, 2110.0) && !lte1.withinEdges(Link::Down, 2170.1));
+        // A Result holds a value or an error, never both: copies and moves across the two.
+        Result<QList<int>> at = band("bc5").channelsAt(Link::Up, 455.65),
+                           none = n75.channelsAt(Link::Up, 1500.0);
+        Result<QList<int>> copy = at;
+        copy = none;
+        QVERIFY(!copy.ok() && copy.value().isEmpty()
+                && copy.error().message == none.error().message);
+        copy = std::move(at);
+        QVERIFY(copy.ok() && copy.value() == (QList<int>{227, 1256})
+                && copy.error().message.isEmpty());
     }
 
     void searches()

@@ -16,6 +16,7 @@
 #include <QtCore/QStringView>
 
 #include <cmath>
+#include <new>
 #include <utility>
 
 class ChBand;
@@ -79,30 +80,95 @@ struct Error
 };
 
 /// A value or the Error that explains its absence. Holding an error costs
-/// its message; holding a value allocates nothing beyond the value itself.
+/// its message; holding a value allocates nothing beyond the value itself,
+/// and builds no Error.
 template <typename T>
 class Result
 {
 public:
     /// An answer.
-    Result(T value)
-        : m_value(std::move(value)), m_ok(true) {} // NOLINT(google-explicit-constructor)
+    Result(T value) : m_ok(true) // NOLINT(google-explicit-constructor)
+    {
+        new (&m_value) T(std::move(value));
+    }
     /// No answer, and why.
-    Result(Error error) : m_error(std::move(error)) {} // NOLINT(google-explicit-constructor)
+    Result(Error error) : m_ok(false) // NOLINT(google-explicit-constructor)
+    {
+        new (&m_error) Error(std::move(error));
+    }
+    /// A copy.
+    Result(const Result &other) : m_ok(other.m_ok) { copyFrom(other); }
+    /// Takes @p other's value or error.
+    Result(Result &&other) noexcept : m_ok(other.m_ok) { moveFrom(other); }
+    /// A copy.
+    Result &operator=(const Result &other)
+    {
+        if (this != &other) {
+            destroy();
+            m_ok = other.m_ok;
+            copyFrom(other);
+        }
+        return *this;
+    }
+    /// Takes @p other's value or error.
+    Result &operator=(Result &&other) noexcept
+    {
+        if (this != &other) {
+            destroy();
+            m_ok = other.m_ok;
+            moveFrom(other);
+        }
+        return *this;
+    }
+    ~Result() { destroy(); }
 
     /// True when there is a value.
     bool ok() const { return m_ok; }
     /// The value; a default-constructed T when !ok().
-    const T &value() const { return m_value; }
-    /// The error; meaningful only when !ok().
-    const Error &error() const { return m_error; }
+    const T &value() const { return m_ok ? m_value : none(); }
+    /// The error; a default Error when ok().
+    const Error &error() const { return m_ok ? noError() : m_error; }
     /// The value, or @p fallback when !ok().
     T valueOr(T fallback) const { return m_ok ? m_value : std::move(fallback); }
 
 private:
-    T m_value{};
-    Error m_error;
-    bool m_ok = false;
+    static const T &none()
+    {
+        static const T kNone{};
+        return kNone;
+    }
+    static const Error &noError()
+    {
+        static const Error kNone;
+        return kNone;
+    }
+    void copyFrom(const Result &other)
+    {
+        if (m_ok)
+            new (&m_value) T(other.m_value);
+        else
+            new (&m_error) Error(other.m_error);
+    }
+    void moveFrom(Result &other)
+    {
+        if (m_ok)
+            new (&m_value) T(std::move(other.m_value));
+        else
+            new (&m_error) Error(std::move(other.m_error));
+    }
+    void destroy()
+    {
+        if (m_ok)
+            m_value.~T();
+        else
+            m_error.~Error();
+    }
+
+    union {
+        T m_value;
+        Error m_error;
+    };
+    bool m_ok;
 };
 
 /// One sub-band record of a band, as the typed API reports it (placeholder
