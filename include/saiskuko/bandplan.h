@@ -187,11 +187,12 @@ struct Record
     double stepMHz = 0.0;
 };
 
-/// A band of the store: a small value (two slot numbers) that stays valid for
-/// the life of the library. Obtain one from findBand(), bandByCode(),
-/// allBands() or bands(); a default-constructed Band is invalid and answers
-/// every query with UnknownBand. Conversions allocate nothing unless they
-/// fail (channelsAt() allocates its list).
+/// A band of the store: a small value (its slots and its place in the
+/// store, which never moves) that stays valid for the life of the library.
+/// Obtain one from findBand(), bandByCode(), allBands() or bands(); a
+/// default-constructed Band is invalid and answers every query with
+/// UnknownBand. Conversions allocate nothing unless they fail (channelsAt()
+/// allocates its list).
 class SAISKUKO_EXPORT Band
 {
 public:
