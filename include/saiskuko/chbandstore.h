@@ -147,9 +147,9 @@ public:
     /// 5G NR band (whose first record is a placeholder) and an empty band slot.
     bool IsUplinkOnly(QString tech, QString band) const;
     /// The default integration bandwidth of technology @p tech, in Hz:
-    /// "CDMA" 1230000, "GSM" 300000, "WCDMA" 3840000, "LTE-FDD", "LTE-TDD" and
-    /// "WIMAX" 10000000, any other text (also "5G NR") 1000000. Exact names;
-    /// nothing is looked up.
+    /// "CDMA" 1230000, "GSM" 300000, "WCDMA" 3840000, "TD-SCDMA" 1280000,
+    /// "LTE-FDD", "LTE-TDD" and "WIMAX" 10000000, any other text (also "5G NR")
+    /// 1000000. Exact names; nothing is looked up.
     double GetDefaultIntBW(QString tech) const;
     ///@}
 
