@@ -5,6 +5,7 @@
 #include <QtTest/QAbstractItemModelTester>
 
 using namespace saiskuko;
+using M = BandPlanModel;
 using Tester = QAbstractItemModelTester;
 
 namespace {
@@ -21,21 +22,10 @@ QSet<int> codesOf(const QList<Band> &bands)
 QSet<int> shownCodes(const QAbstractItemModel &model)
 {
     QSet<int> codes;
-    for (int t = 0; t < model.rowCount(); ++t) {
-        const QModelIndex tech = model.index(t, 0);
-        for (int b = 0; b < model.rowCount(tech); ++b)
-            codes << model.index(b, 0, tech).data(BandPlanModel::CodeRole).toInt();
-    }
+    for (int t = 0; t < model.rowCount(); ++t)
+        for (int b = 0; b < model.rowCount(model.index(t, 0)); ++b)
+            codes << model.index(b, 0, model.index(t, 0)).data(M::CodeRole).toInt();
     return codes;
-}
-
-// A row's display cells as one string, "|" between columns.
-QString rowText(const QModelIndex &row)
-{
-    QStringList texts;
-    for (int c = 0; c < BandPlanModel::ColumnCount; ++c)
-        texts << row.siblingAtColumn(c).data().toString();
-    return texts.join(QLatin1Char('|'));
 }
 
 } // namespace
@@ -46,102 +36,85 @@ class TestBandPlanModel : public QObject
 private Q_SLOTS:
     void treeFollowsTheTypedApi()
     {
-        BandPlanModel model;
+        M model;
         Tester tester(&model, Tester::FailureReportingMode::Fatal);
         QCOMPARE(model.rowCount(), 8);
-        int bandRows = 0;
         for (int t = 0; t < model.rowCount(); ++t) {
             const QModelIndex tech = model.index(t, 0);
             const QList<Band> bands = saiskuko::bands(technologies().at(t));
             QCOMPARE(tech.data().toString(), technologyName(technologies().at(t)));
             QCOMPARE(model.rowCount(tech), bands.size());
-            for (int b = 0; b < bands.size(); ++b, ++bandRows) {
+            for (int b = 0; b < bands.size(); ++b) {
                 const QModelIndex row = model.index(b, 0, tech);
                 const Band band = bands.at(b);
-                QCOMPARE(BandPlanModel::bandAt(row), band);
+                QCOMPARE(M::bandAt(row), band);
                 QCOMPARE(model.indexOf(band), row);
-                QCOMPARE(row.data(BandPlanModel::DuplexRole).toInt(), int(band.duplex()));
+                QCOMPARE(row.data(M::DuplexRole).toInt(), int(band.duplex()));
                 QCOMPARE(model.rowCount(row), band.links().size());
                 for (int l = 0; l < model.rowCount(row); ++l) {
-                    const QModelIndex direction = model.index(l, 0, row);
-                    const Link link = band.links().at(l);
-                    QCOMPARE(direction.data(BandPlanModel::LinkRole).toInt(), int(link));
-                    // Its numbers are channels of the link, and a span of frequencies.
-                    QVERIFY(band.frequency(link,
-                                           direction.data(BandPlanModel::FirstChannelRole).toInt())
-                                .ok());
-                    QVERIFY(
-                        band.frequency(link, direction.data(BandPlanModel::LastChannelRole).toInt())
-                            .ok());
-                    QVERIFY(direction.data(BandPlanModel::LowMHzRole).toDouble()
-                            < direction.data(BandPlanModel::HighMHzRole).toDouble());
+                    // The band's links in order; first and last are channels of the link.
+                    const QModelIndex dir = model.index(l, 0, row);
+                    const Link link = Link(dir.data(M::LinkRole).toInt());
+                    QCOMPARE(int(link), int(band.links().at(l)));
+                    for (const int role : {M::FirstChannelRole, M::LastChannelRole})
+                        QVERIFY(band.frequency(link, dir.data(role).toInt()).ok());
+                    QVERIFY(dir.data(M::LowMHzRole).toDouble()
+                            < dir.data(M::HighMHzRole).toDouble());
                 }
             }
         }
-        QCOMPARE(bandRows, 172);
-        QCOMPARE(model.roleNames().value(BandPlanModel::HighMHzRole), QByteArray("highMHz"));
+        QCOMPARE(shownCodes(model).size(), 172);
     }
 
-    void cellsRead_data()
-    {
-        QTest::addColumn<QString>("band");
-        QTest::addColumn<int>("direction"); // -1 for the band's own row
-        QTest::addColumn<QString>("cells");
-        QTest::newRow("FDD band") << str("LTE:1") << -1 << str("Band 1 (2100)|201|FDD||1920–2170");
-        QTest::newRow("uplink first") << str("LTE:1") << 0 << str("Uplink|||18000–18599|1920–1980");
-        QTest::newRow("downlink") << str("LTE:1") << 1 << str("Downlink|||0–599|2110–2170");
-        QTest::newRow("TDD, a record per link")
-            << str("LTE:33") << 1 << str("Downlink|||36000–36199|1900–1920");
-        QTest::newRow("gaps in the channels")
-            << str("CDMA:3") << 1
-            << str("Downlink|||1–799, 801–1039, 1041–1199, 1201–1600|832.0125–869.9875");
-        QTest::newRow("SDL") << str("NR:n75") << 0 << str("Downlink|||286400–303400|1432–1517");
-    }
     void cellsRead()
     {
-        QFETCH(QString, band);
-        QFETCH(int, direction);
-        BandPlanModel model;
-        const QModelIndex row = model.indexOf(findBand(band).value());
-        QFETCH(QString, cells);
-        QCOMPARE(rowText(direction < 0 ? row : model.index(direction, 0, row)), cells);
+        // Band, direction row (-1: the band's own row), its cells.
+        const QList<std::tuple<const char *, int, const char *>> rows = {
+            {"LTE:1", -1, "Band 1 (2100)|201|FDD||1920–2170"},
+            {"LTE:1", 0, "Uplink|||18000–18599|1920–1980"}, // uplink first
+            {"LTE:1", 1, "Downlink|||0–599|2110–2170"},
+            {"LTE:33", 1, "Downlink|||36000–36199|1900–1920"}, // TDD: a record per link, once
+            {"CDMA:3", 1, "Downlink|||1–799, 801–1039, 1041–1199, 1201–1600|832.0125–869.9875"},
+            {"NR:n75", 0, "Downlink|||286400–303400|1432–1517"}, // SDL
+        };
+        M model;
+        for (const auto &[name, direction, text] : rows) {
+            const QModelIndex band = model.indexOf(findBand(str(name)).value());
+            const QModelIndex row = direction < 0 ? band : model.index(direction, 0, band);
+            QStringList cells;
+            for (int c = 0; c < M::ColumnCount; ++c)
+                cells << row.siblingAtColumn(c).data().toString();
+            QCOMPARE(cells.join(QLatin1Char('|')), str(text));
+        }
     }
 
-    void filterKeeps_data()
+    void filterKeeps()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QSet<int>>("codes");
         QSet<int> at1950;
         for (const SearchHit &hit : search(1950.0))
             at1950 << hit.band.code();
-        QSet<int> lte = codesOf(bands(Technology::LteFdd)) + codesOf(bands(Technology::LteTdd));
-        QTest::newRow("nothing") << str("  ") << codesOf(allBands());
-        QTest::newRow("frequency or channel")
-            << str("1950") << (at1950 + codesOf(bandsWithChannel(1950)));
-        QTest::newRow("frequency only") << str("1950.0") << at1950;
-        QTest::newRow("fragment") << str("n78") << QSet<int>{724};
-        QTest::newRow("technology") << str("lte") << lte;
-        QTest::newRow("alias") << str("B7") << QSet<int>{206};
-        QTest::newRow("no band") << str("-1") << QSet<int>{};
-    }
-    void filterKeeps()
-    {
-        QFETCH(QString, text);
-        BandPlanModel model;
+        const QList<QPair<const char *, QSet<int>>> filters = {
+            {"1950", at1950 + codesOf(bandsWithChannel(1950))}, // a frequency or a channel
+            {" 1950.0 ", at1950},                               // a frequency only
+            {"n78", {724}},
+            {"lte", codesOf(bands(Technology::LteFdd) + bands(Technology::LteTdd))},
+            {"B7", {206}}, // findBand()'s alias
+            {"-1", {}},
+            {"", codesOf(allBands())},
+        };
+        M model;
         BandPlanFilterModel filter;
         filter.setSourceModel(&model);
         Tester tester(&filter, Tester::FailureReportingMode::Fatal);
-        filter.setFilterText(text);
-        QFETCH(QSet<int>, codes);
-        QCOMPARE(shownCodes(filter), codes);
-        // A number keeps only the directions that hold it.
-        if (text == QLatin1String("1950")) {
-            const QModelIndex band1 =
-                filter.mapFromSource(model.indexOf(findBand(u"LTE:1").value()));
-            QCOMPARE(filter.rowCount(band1), 1);
-            QCOMPARE(filter.index(0, 0, band1).data(BandPlanModel::LinkRole).toInt(),
-                     int(Link::Up));
+        for (const auto &f : filters) {
+            filter.setFilterText(str(f.first));
+            QVERIFY2(shownCodes(filter) == f.second, f.first);
         }
+        // A number keeps only the directions that hold it.
+        filter.setFilterText(str("1950"));
+        const QModelIndex band1 = filter.mapFromSource(model.indexOf(findBand(u"LTE:1").value()));
+        QCOMPARE(filter.rowCount(band1), 1);
+        QCOMPARE(filter.index(0, 0, band1).data(M::LinkRole).toInt(), int(Link::Up));
     }
 };
 

@@ -15,6 +15,16 @@ namespace {
 // kDirectionRow | technology row << 16 | band row.
 constexpr quintptr kDirectionRow = quintptr(1) << 30;
 
+quintptr bandRowId(int tech)
+{
+    return quintptr(tech) + 1;
+}
+
+quintptr directionRowId(int tech, int band)
+{
+    return kDirectionRow | quintptr(tech) << 16 | quintptr(band);
+}
+
 struct Place
 {
     int tech = -1;
@@ -192,7 +202,7 @@ QModelIndex BandPlanModel::indexOf(const Band &band, int column) const
         const QVector<Private::BandRow> &rows = d->techs.at(t).bands;
         for (int b = 0; b < rows.size(); ++b) {
             if (rows.at(b).band == band)
-                return createIndex(b, column, quintptr(1 + t));
+                return createIndex(b, column, bandRowId(t));
         }
     }
     return {};
@@ -212,9 +222,8 @@ QModelIndex BandPlanModel::index(int row, int column, const QModelIndex &parent)
         return createIndex(row, column, quintptr(0));
     const Place above = placeOf(parent);
     if (above.band < 0)
-        return createIndex(row, column, quintptr(1 + above.tech));
-    return createIndex(row, column,
-                       kDirectionRow | quintptr(above.tech) << 16 | quintptr(above.band));
+        return createIndex(row, column, bandRowId(above.tech));
+    return createIndex(row, column, directionRowId(above.tech, above.band));
 }
 
 QModelIndex BandPlanModel::parent(const QModelIndex &child) const
@@ -226,7 +235,7 @@ QModelIndex BandPlanModel::parent(const QModelIndex &child) const
         return {};
     if (place.link < 0)
         return createIndex(place.tech, 0, quintptr(0));
-    return createIndex(place.band, 0, quintptr(1 + place.tech));
+    return createIndex(place.band, 0, bandRowId(place.tech));
 }
 
 int BandPlanModel::rowCount(const QModelIndex &parent) const
