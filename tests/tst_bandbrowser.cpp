@@ -11,7 +11,7 @@ private Q_SLOTS:
     void drawsItsWindow()
     {
         BandBrowser browser;
-        browser.resize(1440, 560);
+        browser.resize(1600, 560);
         browser.setFilterText(QStringLiteral("1950"));
         browser.selectBand(saiskuko::findBand(u"LTE:1").value());
         const QImage image = browser.grab().toImage();

@@ -61,7 +61,7 @@ BandBrowser::BandBrowser(QWidget *parent)
     auto *splitter = new QSplitter;
     splitter->addWidget(left);
     splitter->addWidget(right);
-    splitter->setSizes({900, 500});
+    splitter->setSizes({1000, 560});
     (new QVBoxLayout(this))->addWidget(splitter);
 
     connect(m_filterBox, &QLineEdit::textChanged, this, [this](const QString &text) {
@@ -108,15 +108,16 @@ void BandBrowser::showBand(const Band &band)
                                           .arg(band.code())
                                     : tr("Select a band"));
     m_records->clear();
+    const QString range = QStringLiteral("%1–%2");
     for (const Record &r : band.records()) {
-        m_records->addTopLevelItem(new QTreeWidgetItem(
-            {r.link == Link::Up ? tr("Uplink") : tr("Downlink"),
-             QStringLiteral("%1–%2").arg(r.firstChannel).arg(r.lastChannel),
-             formatMHz(r.firstMHz) + QStringLiteral("–") + formatMHz(r.lastMHz),
-             formatMHz(r.lowEdgeMHz) + QStringLiteral("–") + formatMHz(r.highEdgeMHz),
-             QString::number(r.stepMHz * 1000.0)}));
+        m_records->addTopLevelItem(
+            new QTreeWidgetItem({r.link == Link::Up ? tr("Uplink") : tr("Downlink"),
+                                 range.arg(r.firstChannel).arg(r.lastChannel),
+                                 range.arg(formatMHz(r.firstMHz), formatMHz(r.lastMHz)),
+                                 range.arg(formatMHz(r.lowEdgeMHz), formatMHz(r.highEdgeMHz)),
+                                 QString::number(r.stepMHz * 1000.0)}));
     }
-    // Start the converter on the frequency being filtered for, if the band holds it.
+    // Start the converter on the frequency filtered for, where the band holds it.
     bool isNumber = false;
     const double wanted = m_filterBox->text().toDouble(&isNumber);
     const QSignalBlocker blockLink(m_link), blockChannel(m_channel), blockMHz(m_mhz);
@@ -127,12 +128,11 @@ void BandBrowser::showBand(const Band &band)
             m_link->setCurrentIndex(m_link->count() - 1);
     }
     const Link link = Link(m_link->currentData().toInt());
-    const int channel =
-        band.nearestChannel(link, wanted).valueOr(band.records(link).value(0).firstChannel);
+    const bool holds = isNumber && band.withinEdges(link, wanted);
+    const int first = band.records(link).value(0).firstChannel;
+    const int channel = holds ? band.nearestChannel(link, wanted).valueOr(first) : first;
     m_channel->setValue(channel);
-    m_mhz->setValue(isNumber && band.withinEdges(link, wanted)
-                        ? wanted
-                        : band.frequency(link, channel).valueOr(0.0));
+    m_mhz->setValue(holds ? wanted : band.frequency(link, channel).valueOr(0.0));
     convert();
 }
 
