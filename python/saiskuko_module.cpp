@@ -6,6 +6,7 @@
 
 #include <pybind11/pybind11.h>
 
+#include <cctype>
 #include <functional>
 #include <iterator>
 #include <string>
@@ -86,13 +87,16 @@ Link linkOf(const Band &band, py::handle link)
     if (link.is_none())
         return impliedLink(band);
     if (PyUnicode_Check(link.ptr())) {
-        const QString text = fromPython(link.cast<std::string>()).toLower();
-        if (text == QLatin1String("dl") || text == QLatin1String("down"))
+        const std::string given = link.cast<std::string>();
+        std::string text = given; // short: no allocation
+        for (char &c : text)
+            c = char(std::tolower(static_cast<unsigned char>(c)));
+        if (text == "dl" || text == "down")
             return Link::Down;
-        if (text == QLatin1String("ul") || text == QLatin1String("up"))
+        if (text == "ul" || text == "up")
             return Link::Up;
         throw py::value_error("link must be 'dl', 'ul', 'down' or 'up', not "
-                              + saiskuko::echoed(text).toStdString());
+                              + saiskuko::echoed(fromPython(given)).toStdString());
     }
     if (py::isinstance<Link>(link))
         return link.cast<Link>();
@@ -115,7 +119,7 @@ py::list bandList(const QList<Band> &bands)
 
 py::object bandOf(py::handle key)
 {
-    if (PyLong_Check(key.ptr()))
+    if (PyLong_Check(key.ptr()) && !PyBool_Check(key.ptr()))
         return py::cast(valueOf(saiskuko::bandByCode(key.cast<int>())));
     if (PyUnicode_Check(key.ptr()))
         return py::cast(valueOf(saiskuko::findBand(fromPython(key.cast<std::string>()))));
@@ -250,6 +254,8 @@ void defineFunctions(py::module_ &m)
         [](py::handle technology) {
             if (technology.is_none())
                 return bandList(saiskuko::allBands());
+            if (!PyUnicode_Check(technology.ptr()))
+                throw py::type_error("a technology is named by a str ('NR', 'LTE-FDD')");
             const QString name = fromPython(technology.cast<std::string>());
             return bandList(saiskuko::bands(valueOf(saiskuko::findTechnology(name))));
         },

@@ -17,7 +17,7 @@ class Link(enum.Enum):
     DOWN = 0
     UP = 1
 
-LinkLike = Union[Link, Literal["dl", "ul", "down", "up", "DL", "UL", "DOWN", "UP"]]
+_LinkLike = Union[Link, Literal["dl", "ul", "down", "up", "DL", "UL", "DOWN", "UP"]]
 
 class Record:
     """One sub-band record of a band: a run of channels of one link."""
@@ -58,13 +58,13 @@ class Band:
     def links(self) -> List[Link]: ...
     @property
     def records(self) -> List[Record]: ...
-    def frequency(self, channel: int, link: Optional[LinkLike] = None) -> float:
+    def frequency(self, channel: int, link: Optional[_LinkLike] = None) -> float:
         """Centre frequency of a channel in MHz."""
-    def channels_at(self, mhz: float, link: Optional[LinkLike] = None) -> List[int]:
+    def channels_at(self, mhz: float, link: Optional[_LinkLike] = None) -> List[int]:
         """Every channel of the link centred at mhz."""
-    def nearest_channel(self, mhz: float, link: Optional[LinkLike] = None) -> int:
+    def nearest_channel(self, mhz: float, link: Optional[_LinkLike] = None) -> int:
         """The channel of the link centred nearest to mhz."""
-    def paired_channel(self, channel: int, link: Optional[LinkLike] = None) -> int:
+    def paired_channel(self, channel: int, link: Optional[_LinkLike] = None) -> int:
         """The channel of the other link paired with this one."""
     def __eq__(self, other: object) -> bool: ...
     def __hash__(self) -> int: ...
