@@ -3,8 +3,10 @@
 #   runtime  libsaiskuko1       libsaiskuko-qt6-1       the shared library
 #   dev      libsaiskuko-dev    libsaiskuko-qt6-dev     headers, CMake package, .pc
 #   program  saiskuko           saiskuko-qt6            the program, its man page and completion
+#   python   python3-saiskuko   python3-saiskuko-qt6    the Python module saiskuko
 # The two library packages and the two -dev packages share no file. The two
-# program packages are the same program and replace each other.
+# program packages are the same program and replace each other, and so do the
+# two Python packages, which both provide `import saiskuko`.
 
 set(SAISKUKO_PACKAGE_MAINTAINER "saiskuko developers <saiskuko@localhost>"
   CACHE STRING "Maintainer written into the Debian packages")
@@ -59,6 +61,23 @@ else()
 endif()
 set(CPACK_DEBIAN_PROGRAM_PACKAGE_CONFLICTS ${_saiskuko_other_program})
 set(CPACK_DEBIAN_PROGRAM_PACKAGE_REPLACES ${_saiskuko_other_program})
+
+if(TARGET saiskuko_python)
+  list(APPEND CPACK_COMPONENTS_ALL python)
+  set(CPACK_DEBIAN_PYTHON_PACKAGE_NAME python3-${SAISKUKO_NAME})
+  set(CPACK_DEBIAN_PYTHON_PACKAGE_SECTION python)
+  set(CPACK_COMPONENT_PYTHON_DEPENDS runtime)
+  # The extension is built for one minor version of the interpreter.
+  set(_saiskuko_python ${Python_VERSION_MAJOR}.${Python_VERSION_MINOR})
+  math(EXPR _saiskuko_python_next "${Python_VERSION_MINOR} + 1")
+  set(CPACK_DEBIAN_PYTHON_PACKAGE_DEPENDS
+    "python3 (>= ${_saiskuko_python}), python3 (<< ${Python_VERSION_MAJOR}.${_saiskuko_python_next})")
+  set(CPACK_DEBIAN_PYTHON_DESCRIPTION "${_saiskuko_summary} - Python module (Qt ${SAISKUKO_QT_MAJOR})
+The module saiskuko: bands by name or code, channels to frequencies and back,
+paired channels and searches by frequency, answered by lib${SAISKUKO_NAME}.")
+  set(CPACK_DEBIAN_PYTHON_PACKAGE_CONFLICTS python3-${_saiskuko_other_program})
+  set(CPACK_DEBIAN_PYTHON_PACKAGE_REPLACES python3-${_saiskuko_other_program})
+endif()
 
 # Programs built against the runtime package depend on it through its shlibs file.
 set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
