@@ -10,6 +10,7 @@
 #include <QtCore/QMap>
 
 #include <algorithm>
+#include <climits>
 #include <cmath>
 #include <utility>
 
@@ -22,22 +23,27 @@ namespace {
 
 using Range = std::pair<double, double>;
 
+// A channel is a whole number of digits: "1e2" and "300.0" are not, however
+// whole the value they stand for.
 int parseChannel(const QString &text)
 {
+    const QString digits = text.trimmed();
     bool ok = false;
-    const int channel = text.trimmed().toInt(&ok, 10);
+    const int channel = digits.toInt(&ok, 10);
     if (ok && channel >= 0)
         return channel;
+    const bool sign = digits.startsWith(QLatin1Char('-')) || digits.startsWith(QLatin1Char('+'));
+    const QStringView unsignedPart = QStringView(digits).mid(sign ? 1 : 0);
+    const bool whole = !unsignedPart.isEmpty()
+                       && std::all_of(unsignedPart.begin(), unsignedPart.end(), [](QChar c) {
+                              return c >= QLatin1Char('0') && c <= QLatin1Char('9');
+                          });
     const QString what = QLatin1String("channel ") + echoed(text);
-    if (ok)
+    if (!whole)
+        throw BadInput{what + QLatin1String(" is not a whole number")};
+    if (digits.startsWith(QLatin1Char('-')))
         throw BadInput{what + QLatin1String(" must not be negative")};
-    bool number = false;
-    const double value = text.trimmed().toDouble(&number);
-    if (number && value == std::floor(value))
-        throw BadInput{what
-                       + (value < 0 ? QLatin1String(" must not be negative")
-                                    : QLatin1String(" is out of range"))};
-    throw BadInput{what + QLatin1String(" is not a whole number")};
+    throw BadInput{what + QStringLiteral(" is out of range (0 to %1)").arg(INT_MAX)};
 }
 
 double parseMHz(const QString &text)
@@ -196,7 +202,8 @@ Outcome runBand(const QStringList &args, const CommandOptions &)
                         rangeCell(r.lowEdgeMHz, r.highEdgeMHz),
                         r.firstMHz,
                         r.lastMHz,
-                        r.lastChannel > r.firstChannel ? QJsonValue(r.stepMHz) : QJsonValue(),
+                        r.lastChannel > r.firstChannel ? QJsonValue(decimalMHz(r.stepMHz))
+                                                       : QJsonValue(),
                         saiskuko::duplexName(band.duplex()),
                         paired.ok() ? QJsonValue(offset) : QJsonValue()};
     }
@@ -220,6 +227,16 @@ void addPair(const Band &band, Link link, int channel, QStringList *text, QJsonA
                     {QStringLiteral("mhz"), mhz.ok() ? QJsonValue(mhz.value()) : QJsonValue()}});
 }
 
+// A note where a channel's centre lies outside the band's stated edges (the
+// band plan has such records; they convert all the same).
+void noteOutsideEdges(const Band &band, Link link, int channel, double centre, Outcome *out)
+{
+    if (!band.withinEdges(link, centre))
+        out->notes << QStringLiteral("%1 channel %2 (%3 MHz) lies outside the stated edges of %4")
+                          .arg(linkShort(link), QString::number(channel), formatMHz(centre),
+                               band.standard());
+}
+
 Outcome runFreq(const QStringList &args, const CommandOptions &options)
 {
     const Band band = valueOrBadInput(saiskuko::findBand(args[0]));
@@ -240,22 +257,27 @@ Outcome runFreq(const QStringList &args, const CommandOptions &options)
         Row row{channel};
         QStringList pairText;
         QJsonArray pairs;
+        bool found = false;
         for (Link link : links) {
             const saiskuko::Result<double> mhz = band.frequency(link, channel);
-            any = any || mhz.ok();
+            found = found || mhz.ok();
             row << (mhz.ok() ? QJsonValue(mhz.value()) : QJsonValue());
-            if (mhz.ok())
+            if (mhz.ok()) {
                 addPair(band, link, channel, &pairText, &pairs);
+                noteOutsideEdges(band, link, channel, mhz.value(), &out);
+            }
         }
         if (paired)
             row << Cell{pairs, listCell(pairText, ", ").text};
         out.rows << row;
+        any = any || found;
+        if (!found)
+            out.noResult(QStringLiteral("channel %1 is not in %2 (%3)")
+                             .arg(QString::number(channel), band.standard(),
+                                  words.join(QLatin1String(" or "))));
     }
-    if (!any)
-        out.noResult((channels.size() == 1 ? QStringLiteral("channel %1 is not").arg(channels[0])
-                                           : QStringLiteral("none of these channels is"))
-                     + QStringLiteral(" in %1 (%2)")
-                           .arg(band.standard(), words.join(QLatin1String(" or "))));
+    if (!any) // nothing to show but dashes
+        out.rows.clear();
     return out;
 }
 
@@ -289,6 +311,7 @@ Outcome runChannel(const QStringList &args, const CommandOptions &options)
     bool any = false;
     for (int i = 0; i < freqs.size(); ++i) {
         Row row{{freqs[i], args[i + 1].trimmed()}};
+        bool answered = false;
         for (Link link : links) {
             // Every channel of the link centred there, or the nearest one.
             QList<int> found;
@@ -302,12 +325,13 @@ Outcome runChannel(const QStringList &args, const CommandOptions &options)
                     row << QJsonValue();
                 continue;
             }
-            any = true;
+            answered = true;
             // --preferred N: N alone where it is among several (JSON lists them all).
             const bool preferred = options.preferred && found.contains(*options.preferred);
             const int channel = preferred ? *options.preferred : found[0];
             const double centre = centreNear(band, link, channel, freqs[i]);
             const bool inside = band.withinEdges(link, centre);
+            noteOutsideEdges(band, link, channel, centre, &out);
             QJsonArray all;
             QStringList text;
             for (int c : found) {
@@ -317,26 +341,23 @@ Outcome runChannel(const QStringList &args, const CommandOptions &options)
             const QJsonObject match{{QStringLiteral("channel"), channel},
                                     {QStringLiteral("channels"), all},
                                     {QStringLiteral("channelMHz"), centre},
-                                    {QStringLiteral("offsetMHz"), centre - freqs[i]},
+                                    {QStringLiteral("offsetMHz"), decimalMHz(centre - freqs[i])},
                                     {QStringLiteral("insideEdges"), inside}};
             row << Cell{match, preferred ? QString::number(channel) : text.join(QLatin1Char(','))};
             if (options.nearest)
-                row << centre - freqs[i];
-            if (!inside)
-                out.notes << QStringLiteral(
-                                 "%1 channel %2 (%3 MHz) lies outside the stated edges of %4")
-                                 .arg(linkShort(link), QString::number(channel), formatMHz(centre),
-                                      band.standard());
+                row << decimalMHz(centre - freqs[i]);
         }
         out.rows << row;
+        any = any || answered;
+        if (!answered)
+            out.noResult(cut(args[i + 1].trimmed())
+                         + (options.nearest ? QLatin1String(" MHz is not within ")
+                                            : QLatin1String(" MHz is not a channel centre of "))
+                         + band.standard()
+                         + (options.nearest ? QLatin1String("") : QLatin1String(" (try: --nearest)")));
     }
     if (!any)
-        out.noResult(
-            (freqs.size() == 1 ? cut(args[1].trimmed()) + QLatin1String(" MHz is not")
-                               : QStringLiteral("none of these frequencies is"))
-            + (options.nearest ? QLatin1String(" within ") : QLatin1String(" a channel centre of "))
-            + band.standard()
-            + (options.nearest ? QLatin1String("") : QLatin1String(" (try: --nearest)")));
+        out.rows.clear();
     return out;
 }
 
@@ -345,20 +366,23 @@ Outcome runSearch(const QStringList &args, const CommandOptions &options)
 {
     Outcome out("results",
                 {"MHZ|mhz", ">CODE|code", "TECH|technology", "BAND|band", "DIR|direction",
-                 ">CHANNEL|channel", "CHANNEL MHZ|channelMHz", "OFFSET MHZ|offsetMHz"});
+                 ">CHANNEL|channel", "CHANNEL MHZ|channelMHz", "OFFSET MHZ|offsetMHz",
+                 "|offRaster"});
     const QList<double> freqs = parseEach(args, parseMHz);
     for (int i = 0; i < freqs.size(); ++i) {
         const int before = out.rows.size();
         for (const saiskuko::SearchHit &hit : saiskuko::search(freqs[i])) {
             if (linksFor(hit.band, options).contains(hit.link))
                 out.rows << Row{{freqs[i], args[i].trimmed()}} + bandLinkCells(hit.band, hit.link)
-                                + Row{hit.channel, hit.channelMHz, hit.offsetMHz};
+                                + Row{hit.channel, hit.channelMHz,
+                                      {decimalMHz(hit.offsetMHz),
+                                       formatMHz(hit.offsetMHz)
+                                           + QLatin1String(hit.offRaster ? " off-raster" : "")},
+                                      hit.offRaster};
         }
         if (out.rows.size() == before)
-            out.notes << QStringLiteral("no band holds %1 MHz").arg(cut(args[i].trimmed()));
+            out.noResult(QStringLiteral("no band holds %1 MHz").arg(cut(args[i].trimmed())));
     }
-    if (out.rows.isEmpty())
-        out.status = ExitNoResult;
     return out;
 }
 
@@ -375,10 +399,8 @@ Outcome runWhich(const QStringList &args, const CommandOptions &options)
             }
         }
         if (out.rows.size() == before)
-            out.notes << QStringLiteral("no band has a channel %1").arg(channel);
+            out.noResult(QStringLiteral("no band has a channel %1").arg(channel));
     }
-    if (out.rows.isEmpty())
-        out.status = ExitNoResult;
     return out;
 }
 

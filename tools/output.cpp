@@ -6,6 +6,7 @@
 #include <QtCore/QVector>
 
 #include <algorithm>
+#include <cmath>
 
 namespace {
 
@@ -102,6 +103,74 @@ void Outcome::noResult(const QString &note)
 {
     status = ExitNoResult;
     notes << note;
+}
+
+namespace {
+
+// The length of the well-formed UTF-8 sequence at the start of p (n bytes), or 0.
+int utf8Length(const unsigned char *p, int n)
+{
+    if (p[0] < 0x80)
+        return 1;
+    const int length = p[0] < 0xC2 ? 0 : p[0] < 0xE0 ? 2 : p[0] < 0xF0 ? 3 : p[0] < 0xF5 ? 4 : 0;
+    if (length == 0 || n < length)
+        return 0;
+    // The second byte's range rules out overlong forms, surrogates and
+    // code points past U+10FFFF.
+    const unsigned char low = p[0] == 0xE0 ? 0xA0 : p[0] == 0xF0 ? 0x90 : 0x80;
+    const unsigned char high = p[0] == 0xED ? 0x9F : p[0] == 0xF4 ? 0x8F : 0xBF;
+    if (p[1] < low || p[1] > high)
+        return 0;
+    for (int k = 2; k < length; ++k) {
+        if (p[k] < 0x80 || p[k] > 0xBF)
+            return 0;
+    }
+    return length;
+}
+
+} // namespace
+
+QString userText(const QByteArray &bytes)
+{
+    const QString text = QString::fromUtf8(bytes);
+    if (!text.contains(QChar(QChar::ReplacementCharacter)))
+        return text;
+    QString kept;
+    const auto *p = reinterpret_cast<const unsigned char *>(bytes.constData());
+    for (int i = 0; i < bytes.size();) {
+        const int length = utf8Length(p + i, int(bytes.size()) - i);
+        if (length > 0)
+            kept += QString::fromUtf8(bytes.constData() + i, length);
+        else
+            kept += QChar(0xDC00 + p[i]);
+        i += length > 0 ? length : 1;
+    }
+    return kept;
+}
+
+QString shown(const QString &text, bool keepNewlines)
+{
+    QString out;
+    out.reserve(text.size());
+    for (int i = 0; i < text.size(); ++i) {
+        const char16_t c = text[i].unicode();
+        const bool paired = QChar::isHighSurrogate(c)
+                                ? i + 1 < text.size() && text[i + 1].isLowSurrogate()
+                                : QChar::isLowSurrogate(c) && i > 0 && text[i - 1].isHighSurrogate();
+        if ((c >= 0x20 && c < 0x7F) || (c > 0x9F && !QChar::isSurrogate(c)) || paired
+            || (c == '\n' && keepNewlines))
+            out += QChar(c);
+        else if (c < 0xA0 || (c >= 0xDC80 && c <= 0xDCFF))
+            out += QStringLiteral("\\x%1").arg(c & 0xFF, 2, 16, QLatin1Char('0'));
+        else
+            out += QStringLiteral("\\u%1").arg(int(c), 4, 16, QLatin1Char('0'));
+    }
+    return out;
+}
+
+double decimalMHz(double mhz)
+{
+    return std::round(mhz * 1e9) / 1e9;
 }
 
 QString linkShort(saiskuko::Link link)

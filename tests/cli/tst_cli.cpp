@@ -86,9 +86,9 @@ private slots:
             "2010   220  LTE-FDD   Band 23 (2100)      UL     25600  2010         0\n"
             "2010   302  LTE-TDD   Band 34 (2010)      UL     36200  2010         0\n"
             "2010   711  5G NR     Band n34 (TD 2000)  UL    402000  2010         0\n"
-            "2010   230  LTE-FDD   Band 65 (2100)      UL    131971  2009.9       -0.1\n"
-            "2010   404  TD-SCDMA  FBN 4               UL       142  2009.2       -0.8\n"
-            "2010   405  TD-SCDMA  FBN 5               UL         0  2010.8       0.8\n");
+            "2010   230  LTE-FDD   Band 65 (2100)      UL    131971  2009.9       -0.1 off-raster\n"
+            "2010   404  TD-SCDMA  FBN 4               UL       142  2009.2       -0.8 off-raster\n"
+            "2010   405  TD-SCDMA  FBN 5               UL         0  2010.8       0.8 off-raster\n");
         // A printed frequency converts back, also past a record's stated edges.
         row("channel CDMA:2 872.0125", 0,
             "CDMA - Band 2 (TACS) [2]\nMHZ       UL CHANNEL  DL CHANNEL\n872.0125  1329        "
