@@ -7,6 +7,8 @@
 
 #include <saiskuko/saiskuko_version.h>
 
+#include <QtCore/QRegularExpression>
+
 #include <utility>
 
 namespace {
@@ -99,6 +101,36 @@ QString manText()
     return text;
 }
 
+namespace {
+
+// The technology names and short forms (upper case, as people write them)
+// that are one word: a name with a blank would be two candidates.
+QStringList techWords(saiskuko::Technology tech)
+{
+    QStringList words{saiskuko::technologyName(tech)};
+    for (const QString &form : saiskuko::technologyShortForms(tech))
+        words << form.toUpper();
+    return words.filter(QRegularExpression(QStringLiteral("^\\S+$")));
+}
+
+// Every TECH:BAND form of each band under each one-word name of its
+// technology ("LTE:1", "FDD:1", "LTE-FDD:1") that names the band alone.
+QStringList bandForms()
+{
+    QStringList forms;
+    for (const saiskuko::Band &band : saiskuko::allBands()) {
+        const QString bandPart = band.shortName().section(QLatin1Char(':'), 1);
+        for (const QString &tech : techWords(band.technology())) {
+            const QString form = tech + QLatin1Char(':') + bandPart;
+            if (!bandPart.isEmpty() && saiskuko::findBand(form).value() == band)
+                forms << form;
+        }
+    }
+    return forms;
+}
+
+} // namespace
+
 QString completionText()
 {
     QStringList commandNames, optionNames, techs;
@@ -111,13 +143,8 @@ QString completionText()
         }
     }
     for (saiskuko::Technology tech : saiskuko::technologies())
-        techs << saiskuko::technologyName(tech).replace(QLatin1Char(' '), QLatin1String("\\\\ "))
-              << saiskuko::technologyShortForms(tech);
+        techs << techWords(tech);
     techs.removeDuplicates();
-    QStringList bands; // the short names: those that complete to a band
-    for (const saiskuko::Band &band : saiskuko::allBands())
-        bands << band.shortName();
-    bands.removeAll(QString());
     QString text = QStringLiteral(
         "# bash completion for saiskuko\n"
         "_saiskuko()\n{\n"
@@ -131,7 +158,11 @@ QString completionText()
         "        word=${COMP_WORDS[i]}\n"
         "        if [[ $word != -* ]]; then command=$word; break; fi\n"
         "    done\n"
-        "    if [[ $cur == -* ]]; then\n"
+        "    if [[ ${COMP_WORDS[COMP_CWORD-1]} == --tech ]]; then\n"
+        "        COMPREPLY=($(compgen -W \"$techs\" -- \"$cur\"))\n"
+        "    elif [[ ${COMP_WORDS[COMP_CWORD-1]} == -o || ${COMP_WORDS[COMP_CWORD-1]} == --output ]]; then\n"
+        "        COMPREPLY=($(compgen -f -- \"$cur\"))\n"
+        "    elif [[ $cur == -* ]]; then\n"
         "        COMPREPLY=($(compgen -W \"$options\" -- \"$cur\"))\n"
         "    elif [[ -z $command ]]; then\n"
         "        COMPREPLY=($(compgen -W \"$commands\" -- \"$cur\"))\n"
@@ -147,5 +178,5 @@ QString completionText()
         "}\n"
         "complete -F _saiskuko saiskuko\n");
     return text.arg(commandNames.join(QLatin1Char(' ')), optionNames.join(QLatin1Char(' ')),
-                    techs.join(QLatin1Char(' ')), bands.join(QLatin1Char(' ')));
+                    techs.join(QLatin1Char(' ')), bandForms().join(QLatin1Char(' ')));
 }
