@@ -350,11 +350,12 @@ Outcome runChannel(const QStringList &args, const CommandOptions &options)
         out.rows << row;
         any = any || answered;
         if (!answered)
-            out.noResult(cut(args[i + 1].trimmed())
-                         + (options.nearest ? QLatin1String(" MHz is not within ")
-                                            : QLatin1String(" MHz is not a channel centre of "))
-                         + band.standard()
-                         + (options.nearest ? QLatin1String("") : QLatin1String(" (try: --nearest)")));
+            out.noResult(
+                cut(args[i + 1].trimmed())
+                + (options.nearest ? QLatin1String(" MHz is not within ")
+                                   : QLatin1String(" MHz is not a channel centre of "))
+                + band.standard()
+                + (options.nearest ? QLatin1String("") : QLatin1String(" (try: --nearest)")));
     }
     if (!any)
         out.rows.clear();
@@ -364,17 +365,17 @@ Outcome runChannel(const QStringList &args, const CommandOptions &options)
 // Every band and link holding each frequency, nearest channel first.
 Outcome runSearch(const QStringList &args, const CommandOptions &options)
 {
-    Outcome out("results",
-                {"MHZ|mhz", ">CODE|code", "TECH|technology", "BAND|band", "DIR|direction",
-                 ">CHANNEL|channel", "CHANNEL MHZ|channelMHz", "OFFSET MHZ|offsetMHz",
-                 "|offRaster"});
+    Outcome out("results", {"MHZ|mhz", ">CODE|code", "TECH|technology", "BAND|band",
+                            "DIR|direction", ">CHANNEL|channel", "CHANNEL MHZ|channelMHz",
+                            "OFFSET MHZ|offsetMHz", "|offRaster"});
     const QList<double> freqs = parseEach(args, parseMHz);
     for (int i = 0; i < freqs.size(); ++i) {
         const int before = out.rows.size();
         for (const saiskuko::SearchHit &hit : saiskuko::search(freqs[i])) {
             if (linksFor(hit.band, options).contains(hit.link))
                 out.rows << Row{{freqs[i], args[i].trimmed()}} + bandLinkCells(hit.band, hit.link)
-                                + Row{hit.channel, hit.channelMHz,
+                                + Row{hit.channel,
+                                      hit.channelMHz,
                                       {decimalMHz(hit.offsetMHz),
                                        formatMHz(hit.offsetMHz)
                                            + QLatin1String(hit.offRaster ? " off-raster" : "")},
@@ -459,14 +460,18 @@ Cell rangeLines(const QString &text)
 constexpr int kFirstMode = 1;
 constexpr int kLastMode = 23;
 
-// Every mode code and the technologies its band table lists.
+// Every mode code, named for what its band table lists, and the technologies.
 Outcome runModes(const CommandOptions &options)
 {
-    Outcome out("modes", {">MODE|mode", "TECHNOLOGIES|technologies"});
+    Outcome out("modes", {">MODE|mode", "NAME|name", "TECHNOLOGIES|technologies"});
     for (int mode = kFirstMode; mode <= kLastMode; ++mode) {
         QStringList techs = ChStd::GetBandListByMode(mode, 0, options.link).techList;
         techs.removeDuplicates();
-        out.rows << Row{mode, listCell(techs, ", ")};
+        const QString name = techs.isEmpty() ? QStringLiteral("unused")
+                             : techs.size() == 1
+                                 ? techs[0]
+                                 : QStringLiteral("%1 technologies").arg(techs.size());
+        out.rows << Row{mode, name, listCell(techs, ", ")};
     }
     return out;
 }
@@ -551,16 +556,15 @@ const QList<Command> &commands()
     static const QList<Command> list{
         {"techs", "", "technologies, band counts, integration bandwidths", "", runTechs},
         {"bands", "TECH", "codes, channel and MHz ranges, records, duplex", "", runBands},
-        {"band", "BAND", "one band in detail: every record, raster, duplex, pairing", "", runBand},
+        {"band", "BAND", "one band in detail: records, raster, duplex, pairing", "", runBand},
         {"freq", "BAND CHANNEL...", "centre frequency of each channel, per direction", "ul dl",
          runFreq},
-        {"channel", "BAND MHZ...", "channels centred on MHZ (or the nearest), per direction",
+        {"channel", "BAND MHZ...", "channels centred on MHZ (or nearest), per direction",
          "ul dl preferred nearest", runChannel},
         {"search", "MHZ...", "bands holding MHZ, nearest channel first", "ul dl", runSearch},
         {"channels", "BAND LOW HIGH", "channels of a band centred in LOW..HIGH MHz", "ul dl",
          runChannels},
-        {"table", "[MODE]", "band table of an instrument mode; the modes without MODE", "link",
-         runTable},
+        {"table", "[MODE]", "band table of a mode (without MODE: every mode)", "link", runTable},
         {"which", "CHANNEL...", "every band and direction that has CHANNEL", "ul dl", runWhich},
         {"chart", "LOW HIGH", "an SVG picture of the bands between LOW and HIGH MHz",
          "tech mark output", runChart},
@@ -576,16 +580,16 @@ const QList<ProgramOption> &programOptions()
         {"ul", nullptr, "only uplink (freq, channel, search, channels, which);\n"
                         "default: every direction the band has"},
         {"dl", nullptr, "only downlink"},
-        {"preferred", "N", "channel: show only channel N where the frequency has several\n"
+        {"preferred", "N", "channel: only channel N where the frequency has several\n"
                             "(JSON still lists them all)"},
         {"nearest", nullptr, "channel: the nearest channel of each direction and its\n"
                              "offset, for a frequency off the raster"},
         {"link", "0|1", "table: 0 downlink ranges (default), 1 uplink ranges"},
-        {"tech", "T", "chart: only technology T (repeatable; short names as for bands)"},
+        {"tech", "T", "chart: only technology T (repeatable; names as for bands)"},
         {"mark", "MHZ", "chart: a line at MHZ, labelled with the bands and channels\n"
                         "there (repeatable)"},
         {"o output", "FILE", "chart: write the SVG to FILE instead of stdout"},
-        {"json", nullptr, "JSON on stdout, full precision; in batch one document a line", true},
+        {"json", nullptr, "JSON on stdout, full precision; batch: one document a line", true},
         {"verbose", nullptr, "show the library's banner and diagnostics on stderr", true},
         {"q quiet", nullptr, "no library diagnostics (the default)", true},
         {"h help", nullptr, "this text", true},

@@ -283,8 +283,8 @@ int runBatch(const QString &file, const Run &run)
         if (words.isEmpty() || words.first().startsWith(QLatin1Char('#')))
             continue;
         const QString prefix = run.prefix + QStringLiteral("line %1: ").arg(number);
-        worst = std::max(worst,
-                         runWords(words, {run.out, run.err, prefix, run.inherited, true, run.table}));
+        worst = std::max(
+            worst, runWords(words, {run.out, run.err, prefix, run.inherited, true, run.table}));
         run.out.flush();
     }
     return worst;

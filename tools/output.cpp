@@ -154,9 +154,10 @@ QString shown(const QString &text, bool keepNewlines)
     out.reserve(text.size());
     for (int i = 0; i < text.size(); ++i) {
         const char16_t c = text[i].unicode();
-        const bool paired = QChar::isHighSurrogate(c)
-                                ? i + 1 < text.size() && text[i + 1].isLowSurrogate()
-                                : QChar::isLowSurrogate(c) && i > 0 && text[i - 1].isHighSurrogate();
+        const bool paired =
+            QChar::isHighSurrogate(c)
+                ? i + 1 < text.size() && text[i + 1].isLowSurrogate()
+                : QChar::isLowSurrogate(c) && i > 0 && text[i - 1].isHighSurrogate();
         if ((c >= 0x20 && c < 0x7F) || (c > 0x9F && !QChar::isSurrogate(c)) || paired
             || (c == '\n' && keepNewlines))
             out += QChar(c);
