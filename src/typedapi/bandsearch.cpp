@@ -53,7 +53,9 @@ QList<SearchHit> search(double mhz)
         }
     }
     // Nearest first to the hertz, as the offsets print; else by code.
-    const auto hertz = [](const SearchHit &h) { return std::llround(std::fabs(h.offsetMHz) * 1e6); };
+    const auto hertz = [](const SearchHit &h) {
+        return std::llround(std::fabs(h.offsetMHz) * 1e6);
+    };
     std::stable_sort(hits.begin(), hits.end(),
                      [&](const SearchHit &a, const SearchHit &b) { return hertz(a) < hertz(b); });
     return hits;

@@ -238,10 +238,9 @@ Range centreRange(const stSubBand &r)
 {
     const double first = recordFreq(r, r.StartChannelNo);
     const double last = recordFreq(r, r.StopChannelNo);
-    const double halfStep =
-        r.StartChannelNo < r.StopChannelNo
-            ? std::fabs(recordFreq(r, r.StartChannelNo + 1) - first) / 2
-            : 0.0;
+    const double halfStep = r.StartChannelNo < r.StopChannelNo
+                                ? std::fabs(recordFreq(r, r.StartChannelNo + 1) - first) / 2
+                                : 0.0;
     return {std::fmin(first, last) - halfStep, std::fmax(first, last) + halfStep};
 }
 
