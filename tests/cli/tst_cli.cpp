@@ -38,10 +38,15 @@ Run saiskuko(const QString &line, const QByteArray &input = {}, const QString &o
     return run;
 }
 
+QString installedPath(const char *path)
+{
+    return QFileInfo(qEnvironmentVariable("SAISKUKO_CLI")).path() + QLatin1String("/../share/")
+           + QLatin1String(path);
+}
+
 QString installed(const char *path)
 {
-    QFile file(QFileInfo(qEnvironmentVariable("SAISKUKO_CLI")).path() + QLatin1String("/../share/")
-               + QLatin1String(path));
+    QFile file(installedPath(path));
     return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
 }
 
@@ -88,7 +93,8 @@ private slots:
             "2010   711  5G NR     Band n34 (TD 2000)  UL    402000  2010         0\n"
             "2010   230  LTE-FDD   Band 65 (2100)      UL    131971  2009.9       -0.1 off-raster\n"
             "2010   404  TD-SCDMA  FBN 4               UL       142  2009.2       -0.8 off-raster\n"
-            "2010   405  TD-SCDMA  FBN 5               UL         0  2010.8       0.8 off-raster\n");
+            "2010   405  TD-SCDMA  FBN 5               UL         0  2010.8       0.8 "
+            "off-raster\n");
         // A printed frequency converts back, also past a record's stated edges.
         row("channel CDMA:2 872.0125", 0,
             "CDMA - Band 2 (TACS) [2]\nMHZ       UL CHANNEL  DL CHANNEL\n872.0125  1329        "
@@ -102,7 +108,6 @@ private slots:
             "CDMA - Band 5 (450) [5]\nMHZ     UL CHANNEL\n455.65  227,1256\n");
         row("channel CDMA:5 455.65 --ul --preferred 1256", 0,
             "CDMA - Band 5 (450) [5]\nMHZ     UL CHANNEL\n455.65  1256\n");
-        row("table", 0, nullptr);
         row("--version", 0, "saiskuko " SAISKUKO_VERSION_STR "\n");
         // Bad input: 2; a valid query without result: 1.
         row("freq GSM:900 1", 2, "",
@@ -122,6 +127,44 @@ private slots:
         row("chart 700 1000 --mark 1200", 2, "", "mark \"1200\" lies outside the chart's window");
         row("chart 700 1000 --tech XYZ", 2, "", "XYZ");
         row("chart 0.1 0.5", 1, "", "no band has a record between 0.1 and 0.5 MHz");
+        // Some results missing: the rest printed, each missing one said, status 1.
+        row("freq LTE:1 300 700", 1,
+            "LTE-FDD - Band 1 (2100) [201]\nCHANNEL  UL MHZ  DL MHZ  PAIRED\n300      -       2140 "
+            "   UL 18300 1950\n700      -       -       -\n",
+            "saiskuko: channel 700 is not in LTE-FDD - Band 1 (2100) (uplink or downlink)\n");
+        row("freq GSM:p900 0 124", 1, nullptr,
+            "channel 0 is not in GSM - P-GSM 900 (uplink or downlink)");
+        row("search 1785.02 10", 1,
+            "MHZ      CODE  TECH      BAND   DIR  CHANNEL  CHANNEL MHZ  OFFSET MHZ\n1785.02   400  "
+            "TD-SCDMA  FBN 0  UL         0  1785.8       0.78 off-raster\n1785.02   400  TD-SCDMA  "
+            "FBN 0  DL         0  1785.8       0.78 off-raster\n",
+            "saiskuko: no band holds 10 MHz\n");
+        row("which 1 999999999", 1, nullptr, "saiskuko: no band has a channel 999999999\n");
+        // A channel is digits: whole-valued numbers in other forms are not channels.
+        for (const char *text : {"1e2", "300.0", "3e2"})
+            row(qPrintable(QLatin1String("freq LTE:1 ") + QLatin1String(text)), 2, "",
+                qPrintable(QStringLiteral("channel \"%1\" is not a whole number\n")
+                               .arg(QLatin1String(text))));
+        row("freq LTE:1 99999999999", 2, "",
+            "channel \"99999999999\" is out of range (0 to 2147483647)\n");
+        row("freq LTE:1 12345678901234567890123456789012345678901234567890", 2, "",
+            "channel \"1234567890123456789012345678901234567890...\" is out of range (0 to "
+            "2147483647)\n");
+        // Echoed text never reaches the terminal raw.
+        row("freq|\x1b[2J\t|1", 2, "", "saiskuko: cannot read band \"\\x1b[2J\\x09\": give");
+        // No hit in the gap between band class 10's blocks (it held 850.5 before).
+        row("search 850.5", 0,
+            "MHZ    CODE  TECH     BAND                   DIR  CHANNEL  CHANNEL MHZ  OFFSET "
+            "MHZ\n850.5   217  LTE-FDD  Band 20 (800)          UL     24335  850.5        0\n850.5 "
+            "  708  5G NR    Band n20 (800)         UL    170100  850.5        0\n850.5   728  5G "
+            "NR    Band n82 (UL 800)      UL    170100  850.5        0\n850.5   526  WCDMA    Band "
+            "20 (800-General)  UL      4367  850.4        -0.1\n");
+        row("freq NR:n1 434000 --dl", 0,
+            "5G NR - Band n1 (2100) [701]\nCHANNEL  DL MHZ  PAIRED\n434000   2170    UL 396000 "
+            "1980\n",
+            "saiskuko: DL channel 434000 (2170 MHz) lies outside the stated edges of 5G NR - Band "
+            "n1 (2100)\n");
+        row("table", 0, nullptr, "");
     }
 
     void answers()
@@ -160,22 +203,40 @@ private slots:
             11)[QLatin1String("result")][QLatin1String("results")][0][QLatin1String("uplink")];
         QCOMPARE(hit[QLatin1String("channels")].toArray(), QJsonArray({227, 1256}));
         QCOMPARE(hit[QLatin1String("channel")].toInt(), 227);
+        // A missing result is a note and status 1; steps and offsets are the decimals they are.
+        const Run partial = saiskuko(QStringLiteral("--json freq LTE:1 300 700"));
+        QVERIFY(partial.status == 1
+                && partial.out.contains(
+                    QLatin1String("\"notes\": [\n        \"channel 700 is not in LTE-FDD - Band 1 "
+                                  "(2100) (uplink or downlink)\"\n    ],"))
+                && partial.out.contains(QLatin1String("\"status\": 1\n")));
+        QVERIFY(saiskuko(QStringLiteral("--json band NR:n78"))
+                    .out.contains(QLatin1String("\"stepMHz\": 0.015\n")));
+        QVERIFY(saiskuko(QStringLiteral("--json search 2169.97"))
+                    .out.contains(QLatin1String("\"offsetMHz\": -0.07,")));
     }
 
-    // Lines are answered one by one; a bad one is reported by number and sets the status.
+    // Lines are answered one by one; a bad one is reported by number and sets
+    // the status; a run of one command shows its header once; bytes that are
+    // not UTF-8 and control characters are shown escaped.
     void batchGoesOnPastBadLines()
     {
-        const Run run = saiskuko(
-            QStringLiteral("batch"),
-            "freq LTE:1 300\nfreq LTE:1 x\n\n# note\nchannel LTE:1 2140.05\nwhich 1 --dl --ul\n");
+        const Run run = saiskuko(QStringLiteral("batch"),
+                                 "freq LTE:1 300\nfreq LTE:1 x\n\n# note\nfreq LTE:1 301\nchannel "
+                                 "LTE:1 2140.05\nfreq \xff\x1b 1\nsearch 460.01\nsearch 460.01\n");
         QCOMPARE(run.status, 2);
-        QVERIFY(run.out.startsWith(QLatin1String("LTE-FDD - Band 1 (2100) [201]\n"))
-                && run.out.contains(QLatin1String("CHANNEL  CODE")));
-        QCOMPARE(
-            run.err,
-            QStringLiteral(
-                "saiskuko: line 2: channel \"x\" is not a whole number\nsaiskuko: line 5: 2140.05 "
-                "MHz is not a channel centre of LTE-FDD - Band 1 (2100) (try: --nearest)\n"));
+        const QString search =
+            QStringLiteral("460.01     5  CDMA  Band 5 (450)  DL         1  460          -0.01\n");
+        QCOMPARE(run.out,
+                 QStringLiteral(
+                     "LTE-FDD - Band 1 (2100) [201]\nCHANNEL  UL MHZ  DL MHZ  PAIRED\n300      -   "
+                     "    2140    UL 18300 1950\n301      -       2140.1  UL 18301 1950.1\nMHZ     "
+                     "CODE  TECH  BAND          DIR  CHANNEL  CHANNEL MHZ  OFFSET MHZ\n")
+                     + search + search);
+        QVERIFY(run.err.startsWith(QStringLiteral(
+            "saiskuko: line 2: channel \"x\" is not a whole number\nsaiskuko: "
+            "line 6: 2140.05 MHz is not a channel centre of LTE-FDD - Band 1 "
+            "(2100) (try: --nearest)\nsaiskuko: line 7: cannot read band \"\\xff\\x1b\"")));
     }
 
     void failedWriteIsAnError()
@@ -185,8 +246,10 @@ private slots:
         QCOMPARE(saiskuko(QStringLiteral("band 201"), {}, QStringLiteral("/dev/full")).status, 3);
     }
 
-    // The man page and the completion name every command the help lists.
-    void pagesNameEveryCommand()
+    // The man page and the completion name every command the help lists; the
+    // completion offers what people type, the man page shows examples and fits
+    // 80 columns, and the list of modes names each.
+    void pages()
     {
         const QString help = saiskuko(QStringLiteral("--help")).out;
         const QString commands =
@@ -196,11 +259,42 @@ private slots:
         QVERIFY(commands.count(QLatin1Char('\n')) >= 9);
         for (const QString &line : commands.split(QLatin1Char('\n'))) {
             const QString name = line.section(QLatin1Char(' '), 2, 2);
-            QVERIFY2(man.contains(QLatin1String("\n  ") + name + QLatin1Char(' '))
+            QVERIFY2(man.contains(QLatin1String(".TP\n\\fB") + name)
                          && completion.contains(QRegularExpression(QLatin1String("\\b") + name
                                                                    + QLatin1String("\\b"))),
                      qPrintable(name));
         }
+        QVERIFY(man.contains(QLatin1String(".SH EXAMPLES\n.nf\n$ saiskuko freq LTE:1 300 18300\n"
+                                           "LTE\\-FDD \\- Band 1 (2100) [201]\n")));
+        QProcess page;
+        page.start(QStringLiteral("sh"),
+                   {QStringLiteral("-c"), QStringLiteral("MANWIDTH=80 man -l \"$0\" 2>/dev/null"),
+                    installedPath("man/man1/saiskuko.1")});
+        page.waitForFinished();
+        for (const QByteArray &line : page.readAllStandardOutput().split('\n'))
+            QVERIFY2(QString::fromUtf8(line).size() <= 80, line.constData());
+        for (const auto &[words, candidate] : {std::pair{"freq LTE", "LTE:1"},
+                                               {"--tech ", "NR"},
+                                               {"bands 5", "5G"},
+                                               {"freq NR:n7", "NR:n78"}}) {
+            QProcess bash;
+            bash.start(
+                QStringLiteral("bash"),
+                {QStringLiteral("-c"),
+                 QStringLiteral("source \"$0\"; read -ra COMP_WORDS <<< \"saiskuko $1\"; [[ $1 == "
+                                "*' ' ]] && COMP_WORDS+=(''); COMP_CWORD=$((${#COMP_WORDS[@]} - "
+                                "1)); _saiskuko; echo \" ${COMPREPLY[*]} \""),
+                 installedPath("bash-completion/completions/saiskuko"), QString::fromUtf8(words)});
+            bash.waitForFinished();
+            const QString offered = QString::fromUtf8(bash.readAllStandardOutput());
+            QVERIFY2(
+                offered.contains(QLatin1Char(' ') + QLatin1String(candidate) + QLatin1Char(' '))
+                    && !offered.contains(QLatin1Char('\\')),
+                qPrintable(offered));
+        }
+        const QString modes = saiskuko(QStringLiteral("table")).out;
+        QVERIFY(modes.contains(
+            QLatin1String("  14  LTE-TDD         LTE-TDD\n  15  unused          -\n")));
     }
 };
 
