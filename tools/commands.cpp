@@ -8,6 +8,7 @@
 #include <QtCore/QFile>
 #include <QtCore/QJsonArray>
 #include <QtCore/QMap>
+#include <QtCore/QRegularExpression>
 
 #include <algorithm>
 #include <climits>
@@ -32,12 +33,8 @@ int parseChannel(const QString &text)
     const int channel = digits.toInt(&ok, 10);
     if (ok && channel >= 0)
         return channel;
-    const bool sign = digits.startsWith(QLatin1Char('-')) || digits.startsWith(QLatin1Char('+'));
-    const QStringView unsignedPart = QStringView(digits).mid(sign ? 1 : 0);
-    const bool whole = !unsignedPart.isEmpty()
-                       && std::all_of(unsignedPart.begin(), unsignedPart.end(), [](QChar c) {
-                              return c >= QLatin1Char('0') && c <= QLatin1Char('9');
-                          });
+    static const QRegularExpression digitsOnly(QStringLiteral("^[+-]?[0-9]+$"));
+    const bool whole = digitsOnly.match(digits).hasMatch();
     const QString what = QLatin1String("channel ") + echoed(text);
     if (!whole)
         throw BadInput{what + QLatin1String(" is not a whole number")};

@@ -105,45 +105,25 @@ void Outcome::noResult(const QString &note)
     notes << note;
 }
 
-namespace {
-
-// The length of the well-formed UTF-8 sequence at the start of p (n bytes), or 0.
-int utf8Length(const unsigned char *p, int n)
-{
-    if (p[0] < 0x80)
-        return 1;
-    const int length = p[0] < 0xC2 ? 0 : p[0] < 0xE0 ? 2 : p[0] < 0xF0 ? 3 : p[0] < 0xF5 ? 4 : 0;
-    if (length == 0 || n < length)
-        return 0;
-    // The second byte's range rules out overlong forms, surrogates and
-    // code points past U+10FFFF.
-    const unsigned char low = p[0] == 0xE0 ? 0xA0 : p[0] == 0xF0 ? 0x90 : 0x80;
-    const unsigned char high = p[0] == 0xED ? 0x9F : p[0] == 0xF4 ? 0x8F : 0xBF;
-    if (p[1] < low || p[1] > high)
-        return 0;
-    for (int k = 2; k < length; ++k) {
-        if (p[k] < 0x80 || p[k] > 0xBF)
-            return 0;
-    }
-    return length;
-}
-
-} // namespace
-
 QString userText(const QByteArray &bytes)
 {
     const QString text = QString::fromUtf8(bytes);
     if (!text.contains(QChar(QChar::ReplacementCharacter)))
         return text;
+    // A sequence is well formed where it reads back to the same bytes.
     QString kept;
-    const auto *p = reinterpret_cast<const unsigned char *>(bytes.constData());
-    for (int i = 0; i < bytes.size();) {
-        const int length = utf8Length(p + i, int(bytes.size()) - i);
-        if (length > 0)
-            kept += QString::fromUtf8(bytes.constData() + i, length);
-        else
-            kept += QChar(0xDC00 + p[i]);
-        i += length > 0 ? length : 1;
+    for (int i = 0, length = 1; i < bytes.size(); i += length) {
+        QString piece;
+        for (length = 1; length <= 4 && i + length <= bytes.size(); ++length) {
+            piece = QString::fromUtf8(bytes.constData() + i, length);
+            if (piece.toUtf8() == bytes.mid(i, length))
+                break;
+        }
+        if (length > 4 || i + length > bytes.size()) {
+            piece = QChar(0xDC00 + uchar(bytes[i]));
+            length = 1;
+        }
+        kept += piece;
     }
     return kept;
 }

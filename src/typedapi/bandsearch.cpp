@@ -25,8 +25,10 @@ bool hitOf(const Band &band, Link link, double mhz, SearchHit *hit)
         return false;
     *hit = SearchHit{band, link, nearest.value(), HUGE_VAL, HUGE_VAL, false};
     for (double centre : band.frequencies(link, hit->channel)) {
-        if (std::fabs(centre - mhz) < std::fabs(hit->offsetMHz))
-            hit->channelMHz = centre, hit->offsetMHz = centre - mhz;
+        if (std::fabs(centre - mhz) < std::fabs(hit->offsetMHz)) {
+            hit->channelMHz = centre;
+            hit->offsetMHz = centre - mhz;
+        }
     }
     const auto holder = std::find_if(records.begin(), records.end(), [&](const Record &r) {
         return r.firstChannel <= hit->channel && hit->channel <= r.lastChannel;
