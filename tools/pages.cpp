@@ -11,7 +11,6 @@
 #include <QtCore/QTextStream>
 
 #include <iterator>
-
 #include <utility>
 
 namespace {
@@ -50,21 +49,13 @@ const char *const kExit =
 const char *const kSummary = "Looks up the band plan of CDMA, GSM, LTE, TD-SCDMA, WCDMA, WiMAX "
                              "and 5G NR:\nchannels, centre frequencies and bands.\n";
 
-// The man page's examples: run when the page is printed, so their output is real.
-const char *const kExamples[] = {
-    "freq LTE:1 300 18300",
-    "freq GSM:p900 124 125",
-    "freq LTE:1 1e2",
-    "channel WCDMA:1 2140.2",
-    "channel CDMA:5 455.65 --ul",
-    "channel LTE:1 2140.03 --nearest --dl",
-    "search 460.01",
-    "channels GSM:e900 880 890.2",
-    "which 630000 --dl",
-    "freq NR:n78 630000",
-    "table 9",
-    "techs",
-};
+// The man page's examples, one a line: run when the page is printed, so their
+// output is real.
+const char *const kExamples = "freq LTE:1 300 18300\nfreq GSM:p900 124 125\nfreq LTE:1 1e2\n"
+                              "channel WCDMA:1 2140.2\nchannel CDMA:5 455.65 --ul\n"
+                              "channel LTE:1 2140.03 --nearest --dl\nsearch 460.01\n"
+                              "channels GSM:e900 880 890.2\nwhich 630000 --dl\n"
+                              "freq NR:n78 630000\ntable 9\ntechs";
 
 QString optionCall(const ProgramOption &option)
 {
@@ -159,10 +150,10 @@ QString manText()
                     + escaped(section.prose.trimmed()) + QLatin1Char('\n');
     }
     text += QLatin1String(".SH EXAMPLES\n.nf\n");
-    for (const char *line : kExamples)
-        text += escaped(QLatin1String("$ saiskuko ") + QLatin1String(line) + QLatin1Char('\n')
-                        + exampleOutput(QLatin1String(line)))
-                + QLatin1Char('\n');
+    for (const QString &line : QString::fromLatin1(kExamples).split(QLatin1Char('\n')))
+        text +=
+            escaped(QLatin1String("$ saiskuko ") + line + QLatin1Char('\n') + exampleOutput(line))
+            + QLatin1Char('\n');
     return text + QLatin1String(".fi\n");
 }
 

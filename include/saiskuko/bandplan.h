@@ -187,7 +187,7 @@ struct Record
     double stepMHz = 0.0;
     /// Lower end of the frequencies the record holds, MHz: its lowest channel
     /// centre less half a raster step, or its lower edge where that lies
-    /// lower. Records of a link that state the same edges share them: the
+    /// lower. Records of the band that state the same edges share them: the
     /// edges then widen only the lowest and the highest of those records,
     /// and a gap between them holds nothing (CDMA band class 10).
     double spanLowMHz = 0.0;
