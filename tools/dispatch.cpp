@@ -66,7 +66,7 @@ struct Run
 // header once (widths aside), and its heading (the band) where it changes.
 QString tableText(const Outcome &outcome, const QString &command, BatchTable *last)
 {
-    const QString text = outcome.text();
+    QString text = outcome.text();
     if (!last || outcome.columns.isEmpty()) {
         if (last)
             *last = {};
@@ -94,9 +94,12 @@ int report(const Run &run, bool json, const QString &command, const QStringList 
 {
     if (json) {
         const QJsonObject result = outcome.result();
+        QStringList echoedArguments; // as messages show them: bytes not UTF-8 as \xNN
+        for (const QString &argument : arguments)
+            echoedArguments << shown(argument);
         const QJsonObject document{
             {QStringLiteral("command"), command.isEmpty() ? QJsonValue() : QJsonValue(command)},
-            {QStringLiteral("arguments"), QJsonArray::fromStringList(arguments)},
+            {QStringLiteral("arguments"), QJsonArray::fromStringList(echoedArguments)},
             {QStringLiteral("status"), outcome.status},
             {QStringLiteral("notes"), QJsonArray::fromStringList(outcome.notes)},
             {QStringLiteral("result"), result.isEmpty() ? QJsonValue() : QJsonValue(result)}};

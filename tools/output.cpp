@@ -107,7 +107,7 @@ void Outcome::noResult(const QString &note)
 
 QString userText(const QByteArray &bytes)
 {
-    const QString text = QString::fromUtf8(bytes);
+    QString text = QString::fromUtf8(bytes);
     if (!text.contains(QChar(QChar::ReplacementCharacter)))
         return text;
     // A sequence is well formed where it reads back to the same bytes.

@@ -10,7 +10,6 @@
 #include <QtCore/QRegularExpression>
 #include <QtCore/QTextStream>
 
-#include <iterator>
 #include <utility>
 
 namespace {
@@ -22,16 +21,15 @@ struct Entry
     const char *help;
 };
 
-// Naming a band: the forms, and the rule.
-const Entry kNamingForms[] = {
-    {QStringLiteral("201"), "its code (see: saiskuko bands TECH)"},
-    {QStringLiteral("\"LTE-FDD - Band 1 (2100)\""), "its channel standard, exactly as listed"},
-    {QStringLiteral("TECH:BAND"), "a short form, any case: LTE:1, TDD:40, NR:n78,\n"
-                                  "GSM:dcs1800, GSM:e900, CDMA:0, TDS:0, WIMAX:r1,\n"
-                                  "WCDMA:2-additional, WCDMA:21-3500, FDD:global"},
-    {QStringLiteral("B1, b1, band1"), "LTE bands; N78 an NR band; bc0 a CDMA band class"},
-    {QStringLiteral("WCDMA:I, WCDMA:VIII"), "UTRA bands in Roman numerals; LTE:07, NR:n078\n"
-                                            "leading zeros"},
+// Naming a band: the forms (each with what it means), and the rule.
+const char *const kNamingForms[][2] = {
+    {"201", "its code (see: saiskuko bands TECH)"},
+    {"\"LTE-FDD - Band 1 (2100)\"", "its channel standard, exactly as listed"},
+    {"TECH:BAND", "a short form, any case: LTE:1, TDD:40, NR:n78,\n"
+                  "GSM:dcs1800, GSM:e900, CDMA:0, TDS:0, WIMAX:r1,\n"
+                  "WCDMA:2-additional, WCDMA:21-3500, FDD:global"},
+    {"B1, b1, band1", "LTE bands; N78 an NR band; bc0 a CDMA band class"},
+    {"WCDMA:I, WCDMA:VIII", "UTRA bands in Roman numerals; LTE:07, NR:n078\nleading zeros"},
 };
 const char *const kNaming =
     "  A name that fits no band or several is an error that lists the candidates.\n";
@@ -85,10 +83,9 @@ QList<Section> sections()
         if (*option.help)
             optionList.entries.append({optionCall(option), option.help});
     }
-    const Section naming{QStringLiteral("Naming a band (one argument)"),
-                         {std::begin(kNamingForms), std::end(kNamingForms)},
-                         27,
-                         QLatin1String(kNaming)};
+    Section naming{QStringLiteral("Naming a band (one argument)"), {}, 27, QLatin1String(kNaming)};
+    for (const auto &form : kNamingForms)
+        naming.entries.append({QString::fromLatin1(form[0]), form[1]});
     return {commandList,
             naming,
             optionList,
