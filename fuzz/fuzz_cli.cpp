@@ -64,5 +64,9 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     const bool pages = std::any_of(arguments.begin(), arguments.end(), asksForPage);
     if (json && !pages && !outText.isEmpty())
         FUZZ_CHECK(QJsonDocument::fromJson(outText.toUtf8()).isObject());
+    // No control character of the input reaches a terminal raw.
+    const auto raw = [](QChar c) { return c < QLatin1Char(' ') && c != QLatin1Char('\n'); };
+    FUZZ_CHECK(std::none_of(errText.begin(), errText.end(), raw));
+    FUZZ_CHECK(std::none_of(outText.begin(), outText.end(), raw));
     return 0;
 }

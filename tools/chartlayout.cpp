@@ -26,17 +26,17 @@ QString barTitle(const Band &band, BarKind kind, const Record &record)
     return QStringLiteral("%1\n%2 [%3]\n%4\nchannels %5-%6\n%7-%8 MHz")
         .arg(band.technologyName(), band.name(), QString::number(band.code()),
              QLatin1String(kDirections[int(kind)]), QString::number(record.firstChannel),
-             QString::number(record.lastChannel), formatMHz(record.lowEdgeMHz),
-             formatMHz(record.highEdgeMHz));
+             QString::number(record.lastChannel), formatMHz(record.spanLowMHz),
+             formatMHz(record.spanHighMHz));
 }
 
-// Whether a record shows in the window: its edges overlap it (a record of
+// Whether a record shows in the window: its span overlaps it (a record of
 // zero width counts where it lies inside).
 bool overlapsWindow(const Record &record, double low, double high)
 {
-    const double from = std::max(record.lowEdgeMHz, low);
-    const double to = std::min(record.highEdgeMHz, high);
-    return from < to || (record.lowEdgeMHz == record.highEdgeMHz && from == to);
+    const double from = std::max(record.spanLowMHz, low);
+    const double to = std::min(record.spanHighMHz, high);
+    return from < to || (record.spanLowMHz == record.spanHighMHz && from == to);
 }
 
 QList<ChartBar> barsOf(const Band &band, double low, double high)
@@ -51,10 +51,10 @@ QList<ChartBar> barsOf(const Band &band, double low, double high)
                                                                     : BarKind::Downlink;
         // Both links of a time-division band name the same channels: one bar.
         const bool drawn = std::any_of(bars.begin(), bars.end(), [&](const ChartBar &b) {
-            return b.kind == kind && b.lowMHz == r.lowEdgeMHz && b.highMHz == r.highEdgeMHz;
+            return b.kind == kind && b.lowMHz == r.spanLowMHz && b.highMHz == r.spanHighMHz;
         });
         if (!drawn)
-            bars.append({kind, r.lowEdgeMHz, r.highEdgeMHz, {}, barTitle(band, kind, r)});
+            bars.append({kind, r.spanLowMHz, r.spanHighMHz, {}, barTitle(band, kind, r)});
     }
     return bars;
 }

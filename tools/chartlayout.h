@@ -37,9 +37,9 @@ struct ChartBox
 struct ChartBar
 {
     BarKind kind = BarKind::Downlink;
-    double lowMHz = 0, highMHz = 0; // the record's stated edges
+    double lowMHz = 0, highMHz = 0; // the record's span (a gap between records shows)
     ChartBox box;                   // clipped to the window
-    QString title;                  // technology, band, direction, channels, edges
+    QString title;                  // technology, band, direction, channels, span
 };
 
 struct ChartRow

@@ -8,8 +8,10 @@
 #include <QtCore/QFile>
 #include <QtCore/QJsonArray>
 #include <QtCore/QMap>
+#include <QtCore/QRegularExpression>
 
 #include <algorithm>
+#include <climits>
 #include <cmath>
 #include <utility>
 
@@ -22,22 +24,23 @@ namespace {
 
 using Range = std::pair<double, double>;
 
+// A channel is a whole number of digits: "1e2" and "300.0" are not, however
+// whole the value they stand for.
 int parseChannel(const QString &text)
 {
+    const QString digits = text.trimmed();
     bool ok = false;
-    const int channel = text.trimmed().toInt(&ok, 10);
+    const int channel = digits.toInt(&ok, 10);
     if (ok && channel >= 0)
         return channel;
+    static const QRegularExpression digitsOnly(QStringLiteral("^[+-]?[0-9]+$"));
+    const bool whole = digitsOnly.match(digits).hasMatch();
     const QString what = QLatin1String("channel ") + echoed(text);
-    if (ok)
+    if (!whole)
+        throw BadInput{what + QLatin1String(" is not a whole number")};
+    if (digits.startsWith(QLatin1Char('-')))
         throw BadInput{what + QLatin1String(" must not be negative")};
-    bool number = false;
-    const double value = text.trimmed().toDouble(&number);
-    if (number && value == std::floor(value))
-        throw BadInput{what
-                       + (value < 0 ? QLatin1String(" must not be negative")
-                                    : QLatin1String(" is out of range"))};
-    throw BadInput{what + QLatin1String(" is not a whole number")};
+    throw BadInput{what + QStringLiteral(" is out of range (0 to %1)").arg(INT_MAX)};
 }
 
 double parseMHz(const QString &text)
@@ -196,7 +199,8 @@ Outcome runBand(const QStringList &args, const CommandOptions &)
                         rangeCell(r.lowEdgeMHz, r.highEdgeMHz),
                         r.firstMHz,
                         r.lastMHz,
-                        r.lastChannel > r.firstChannel ? QJsonValue(r.stepMHz) : QJsonValue(),
+                        r.lastChannel > r.firstChannel ? QJsonValue(decimalMHz(r.stepMHz))
+                                                       : QJsonValue(),
                         saiskuko::duplexName(band.duplex()),
                         paired.ok() ? QJsonValue(offset) : QJsonValue()};
     }
@@ -220,6 +224,16 @@ void addPair(const Band &band, Link link, int channel, QStringList *text, QJsonA
                     {QStringLiteral("mhz"), mhz.ok() ? QJsonValue(mhz.value()) : QJsonValue()}});
 }
 
+// A note where a channel's centre lies outside the band's stated edges (the
+// band plan has such records; they convert all the same).
+void noteOutsideEdges(const Band &band, Link link, int channel, double centre, Outcome *out)
+{
+    if (!band.withinEdges(link, centre))
+        out->notes << QStringLiteral("%1 channel %2 (%3 MHz) lies outside the stated edges of %4")
+                          .arg(linkShort(link), QString::number(channel), formatMHz(centre),
+                               band.standard());
+}
+
 Outcome runFreq(const QStringList &args, const CommandOptions &options)
 {
     const Band band = valueOrBadInput(saiskuko::findBand(args[0]));
@@ -240,22 +254,27 @@ Outcome runFreq(const QStringList &args, const CommandOptions &options)
         Row row{channel};
         QStringList pairText;
         QJsonArray pairs;
+        bool found = false;
         for (Link link : links) {
             const saiskuko::Result<double> mhz = band.frequency(link, channel);
-            any = any || mhz.ok();
+            found = found || mhz.ok();
             row << (mhz.ok() ? QJsonValue(mhz.value()) : QJsonValue());
-            if (mhz.ok())
+            if (mhz.ok()) {
                 addPair(band, link, channel, &pairText, &pairs);
+                noteOutsideEdges(band, link, channel, mhz.value(), &out);
+            }
         }
         if (paired)
             row << Cell{pairs, listCell(pairText, ", ").text};
         out.rows << row;
+        any = any || found;
+        if (!found)
+            out.noResult(QStringLiteral("channel %1 is not in %2 (%3)")
+                             .arg(QString::number(channel), band.standard(),
+                                  words.join(QLatin1String(" or "))));
     }
-    if (!any)
-        out.noResult((channels.size() == 1 ? QStringLiteral("channel %1 is not").arg(channels[0])
-                                           : QStringLiteral("none of these channels is"))
-                     + QStringLiteral(" in %1 (%2)")
-                           .arg(band.standard(), words.join(QLatin1String(" or "))));
+    if (!any) // nothing to show but dashes
+        out.rows.clear();
     return out;
 }
 
@@ -289,6 +308,7 @@ Outcome runChannel(const QStringList &args, const CommandOptions &options)
     bool any = false;
     for (int i = 0; i < freqs.size(); ++i) {
         Row row{{freqs[i], args[i + 1].trimmed()}};
+        bool answered = false;
         for (Link link : links) {
             // Every channel of the link centred there, or the nearest one.
             QList<int> found;
@@ -302,12 +322,13 @@ Outcome runChannel(const QStringList &args, const CommandOptions &options)
                     row << QJsonValue();
                 continue;
             }
-            any = true;
+            answered = true;
             // --preferred N: N alone where it is among several (JSON lists them all).
             const bool preferred = options.preferred && found.contains(*options.preferred);
             const int channel = preferred ? *options.preferred : found[0];
             const double centre = centreNear(band, link, channel, freqs[i]);
             const bool inside = band.withinEdges(link, centre);
+            noteOutsideEdges(band, link, channel, centre, &out);
             QJsonArray all;
             QStringList text;
             for (int c : found) {
@@ -317,48 +338,49 @@ Outcome runChannel(const QStringList &args, const CommandOptions &options)
             const QJsonObject match{{QStringLiteral("channel"), channel},
                                     {QStringLiteral("channels"), all},
                                     {QStringLiteral("channelMHz"), centre},
-                                    {QStringLiteral("offsetMHz"), centre - freqs[i]},
+                                    {QStringLiteral("offsetMHz"), decimalMHz(centre - freqs[i])},
                                     {QStringLiteral("insideEdges"), inside}};
             row << Cell{match, preferred ? QString::number(channel) : text.join(QLatin1Char(','))};
             if (options.nearest)
-                row << centre - freqs[i];
-            if (!inside)
-                out.notes << QStringLiteral(
-                                 "%1 channel %2 (%3 MHz) lies outside the stated edges of %4")
-                                 .arg(linkShort(link), QString::number(channel), formatMHz(centre),
-                                      band.standard());
+                row << decimalMHz(centre - freqs[i]);
         }
         out.rows << row;
+        any = any || answered;
+        if (!answered)
+            out.noResult(
+                cut(args[i + 1].trimmed())
+                + (options.nearest ? QLatin1String(" MHz is not within ")
+                                   : QLatin1String(" MHz is not a channel centre of "))
+                + band.standard()
+                + (options.nearest ? QLatin1String("") : QLatin1String(" (try: --nearest)")));
     }
     if (!any)
-        out.noResult(
-            (freqs.size() == 1 ? cut(args[1].trimmed()) + QLatin1String(" MHz is not")
-                               : QStringLiteral("none of these frequencies is"))
-            + (options.nearest ? QLatin1String(" within ") : QLatin1String(" a channel centre of "))
-            + band.standard()
-            + (options.nearest ? QLatin1String("") : QLatin1String(" (try: --nearest)")));
+        out.rows.clear();
     return out;
 }
 
 // Every band and link holding each frequency, nearest channel first.
 Outcome runSearch(const QStringList &args, const CommandOptions &options)
 {
-    Outcome out("results",
-                {"MHZ|mhz", ">CODE|code", "TECH|technology", "BAND|band", "DIR|direction",
-                 ">CHANNEL|channel", "CHANNEL MHZ|channelMHz", "OFFSET MHZ|offsetMHz"});
+    Outcome out("results", {"MHZ|mhz", ">CODE|code", "TECH|technology", "BAND|band",
+                            "DIR|direction", ">CHANNEL|channel", "CHANNEL MHZ|channelMHz",
+                            "OFFSET MHZ|offsetMHz", "|offRaster"});
     const QList<double> freqs = parseEach(args, parseMHz);
     for (int i = 0; i < freqs.size(); ++i) {
         const int before = out.rows.size();
         for (const saiskuko::SearchHit &hit : saiskuko::search(freqs[i])) {
             if (linksFor(hit.band, options).contains(hit.link))
                 out.rows << Row{{freqs[i], args[i].trimmed()}} + bandLinkCells(hit.band, hit.link)
-                                + Row{hit.channel, hit.channelMHz, hit.offsetMHz};
+                                + Row{hit.channel,
+                                      hit.channelMHz,
+                                      {decimalMHz(hit.offsetMHz),
+                                       formatMHz(hit.offsetMHz)
+                                           + QLatin1String(hit.offRaster ? " off-raster" : "")},
+                                      hit.offRaster};
         }
         if (out.rows.size() == before)
-            out.notes << QStringLiteral("no band holds %1 MHz").arg(cut(args[i].trimmed()));
+            out.noResult(QStringLiteral("no band holds %1 MHz").arg(cut(args[i].trimmed())));
     }
-    if (out.rows.isEmpty())
-        out.status = ExitNoResult;
     return out;
 }
 
@@ -375,10 +397,8 @@ Outcome runWhich(const QStringList &args, const CommandOptions &options)
             }
         }
         if (out.rows.size() == before)
-            out.notes << QStringLiteral("no band has a channel %1").arg(channel);
+            out.noResult(QStringLiteral("no band has a channel %1").arg(channel));
     }
-    if (out.rows.isEmpty())
-        out.status = ExitNoResult;
     return out;
 }
 
@@ -437,14 +457,18 @@ Cell rangeLines(const QString &text)
 constexpr int kFirstMode = 1;
 constexpr int kLastMode = 23;
 
-// Every mode code and the technologies its band table lists.
+// Every mode code, named for what its band table lists, and the technologies.
 Outcome runModes(const CommandOptions &options)
 {
-    Outcome out("modes", {">MODE|mode", "TECHNOLOGIES|technologies"});
+    Outcome out("modes", {">MODE|mode", "NAME|name", "TECHNOLOGIES|technologies"});
     for (int mode = kFirstMode; mode <= kLastMode; ++mode) {
         QStringList techs = ChStd::GetBandListByMode(mode, 0, options.link).techList;
         techs.removeDuplicates();
-        out.rows << Row{mode, listCell(techs, ", ")};
+        const QString name = techs.isEmpty() ? QStringLiteral("unused")
+                             : techs.size() == 1
+                                 ? techs[0]
+                                 : QStringLiteral("%1 technologies").arg(techs.size());
+        out.rows << Row{mode, name, listCell(techs, ", ")};
     }
     return out;
 }
@@ -529,16 +553,15 @@ const QList<Command> &commands()
     static const QList<Command> list{
         {"techs", "", "technologies, band counts, integration bandwidths", "", runTechs},
         {"bands", "TECH", "codes, channel and MHz ranges, records, duplex", "", runBands},
-        {"band", "BAND", "one band in detail: every record, raster, duplex, pairing", "", runBand},
+        {"band", "BAND", "one band in detail: records, raster, duplex, pairing", "", runBand},
         {"freq", "BAND CHANNEL...", "centre frequency of each channel, per direction", "ul dl",
          runFreq},
-        {"channel", "BAND MHZ...", "channels centred on MHZ (or the nearest), per direction",
+        {"channel", "BAND MHZ...", "channels centred on MHZ (or nearest), per direction",
          "ul dl preferred nearest", runChannel},
         {"search", "MHZ...", "bands holding MHZ, nearest channel first", "ul dl", runSearch},
         {"channels", "BAND LOW HIGH", "channels of a band centred in LOW..HIGH MHz", "ul dl",
          runChannels},
-        {"table", "[MODE]", "band table of an instrument mode; the modes without MODE", "link",
-         runTable},
+        {"table", "[MODE]", "band table of a mode (without MODE: every mode)", "link", runTable},
         {"which", "CHANNEL...", "every band and direction that has CHANNEL", "ul dl", runWhich},
         {"chart", "LOW HIGH", "an SVG picture of the bands between LOW and HIGH MHz",
          "tech mark output", runChart},
@@ -554,16 +577,16 @@ const QList<ProgramOption> &programOptions()
         {"ul", nullptr, "only uplink (freq, channel, search, channels, which);\n"
                         "default: every direction the band has"},
         {"dl", nullptr, "only downlink"},
-        {"preferred", "N", "channel: show only channel N where the frequency has several\n"
+        {"preferred", "N", "channel: only channel N where the frequency has several\n"
                             "(JSON still lists them all)"},
         {"nearest", nullptr, "channel: the nearest channel of each direction and its\n"
                              "offset, for a frequency off the raster"},
         {"link", "0|1", "table: 0 downlink ranges (default), 1 uplink ranges"},
-        {"tech", "T", "chart: only technology T (repeatable; short names as for bands)"},
+        {"tech", "T", "chart: only technology T (repeatable; names as for bands)"},
         {"mark", "MHZ", "chart: a line at MHZ, labelled with the bands and channels\n"
                         "there (repeatable)"},
         {"o output", "FILE", "chart: write the SVG to FILE instead of stdout"},
-        {"json", nullptr, "JSON on stdout, full precision; in batch one document a line", true},
+        {"json", nullptr, "JSON on stdout, full precision; batch: one document a line", true},
         {"verbose", nullptr, "show the library's banner and diagnostics on stderr", true},
         {"q quiet", nullptr, "no library diagnostics (the default)", true},
         {"h help", nullptr, "this text", true},

@@ -44,15 +44,46 @@ QString unmarked(const QString &argument)
     return argument.startsWith(kNumberMark) ? argument.mid(1) : argument;
 }
 
+// The last table a batch printed: its command, heading and column header.
+struct BatchTable
+{
+    QString command, heading, header;
+};
+
 // Where one run writes: its streams and the prefix of its messages; in batch
-// also the options passed to each line, and JSON one document a line.
+// also the options passed to each line, JSON one document a line, and the
+// last table printed.
 struct Run
 {
     QTextStream &out, &err;
     QString prefix;
     QStringList inherited;
     bool batch;
+    BatchTable *table = nullptr;
 };
+
+// An outcome's text; in batch a run of lines of one command shows its column
+// header once (widths aside), and its heading (the band) where it changes.
+QString tableText(const Outcome &outcome, const QString &command, BatchTable *last)
+{
+    QString text = outcome.text();
+    if (!last || outcome.columns.isEmpty()) {
+        if (last)
+            *last = {};
+        return text;
+    }
+    const int headingEnd = outcome.heading.isEmpty() ? 0 : int(text.indexOf(QLatin1Char('\n'))) + 1;
+    const int headerEnd = int(text.indexOf(QLatin1Char('\n'), headingEnd)) + 1;
+    const BatchTable table{command, text.left(headingEnd),
+                           text.mid(headingEnd, headerEnd - headingEnd).simplified()};
+    const bool sameCommand = table.command == last->command;
+    const bool sameHeading = sameCommand && table.heading == last->heading;
+    const bool sameHeader = sameCommand && table.header == last->header;
+    *last = table;
+    return (sameHeading ? QString() : table.heading)
+           + (sameHeader ? QString() : text.mid(headingEnd, headerEnd - headingEnd))
+           + text.mid(headerEnd);
+}
 
 int runBatch(const QString &file, const Run &run);
 
@@ -63,20 +94,23 @@ int report(const Run &run, bool json, const QString &command, const QStringList 
 {
     if (json) {
         const QJsonObject result = outcome.result();
+        QStringList echoedArguments; // as messages show them: bytes not UTF-8 as \xNN
+        for (const QString &argument : arguments)
+            echoedArguments << shown(argument);
         const QJsonObject document{
             {QStringLiteral("command"), command.isEmpty() ? QJsonValue() : QJsonValue(command)},
-            {QStringLiteral("arguments"), QJsonArray::fromStringList(arguments)},
+            {QStringLiteral("arguments"), QJsonArray::fromStringList(echoedArguments)},
             {QStringLiteral("status"), outcome.status},
             {QStringLiteral("notes"), QJsonArray::fromStringList(outcome.notes)},
             {QStringLiteral("result"), result.isEmpty() ? QJsonValue() : QJsonValue(result)}};
         run.out << QString::fromUtf8(QJsonDocument(document).toJson(
             run.batch ? QJsonDocument::Compact : QJsonDocument::Indented))
                 << (run.batch ? "\n" : "");
-    } else if (outcome.status == ExitOk) {
-        run.out << outcome.text();
+    } else if (outcome.status == ExitOk || !outcome.rows.isEmpty()) {
+        run.out << shown(tableText(outcome, command, run.table), true);
     }
     for (const QString &note : outcome.notes)
-        run.err << run.prefix << note << '\n';
+        run.err << run.prefix << shown(note) << '\n';
     return outcome.status;
 }
 
@@ -201,7 +235,8 @@ int runWords(const QStringList &words, const Run &run)
             if (isSet(common))
                 passed << QLatin1String("--") + QLatin1String(common);
         }
-        return runBatch(arguments.value(0), {run.out, run.err, run.prefix, passed, true});
+        BatchTable table;
+        return runBatch(arguments.value(0), {run.out, run.err, run.prefix, passed, true, &table});
     } catch (const BadInput &error) {
         return fail(error.message);
     }
@@ -238,19 +273,21 @@ int runBatch(const QString &file, const Run &run)
     const bool opened = file.isEmpty() ? input.open(stdin, QIODevice::ReadOnly | QIODevice::Text)
                                        : input.open(QIODevice::ReadOnly | QIODevice::Text);
     if (!opened) {
-        run.err << run.prefix << "cannot read " << echoed(file) << ": " << input.errorString()
-                << '\n';
+        run.err << run.prefix << shown(QLatin1String("cannot read ") + echoed(file)) << ": "
+                << input.errorString() << '\n';
         return ExitBadInput;
     }
-    QTextStream lines(&input);
     int worst = ExitOk;
-    QString line;
-    for (int number = 1; lines.readLineInto(&line); ++number) {
-        const QStringList words = splitLine(line);
+    for (int number = 1; !input.atEnd(); ++number) {
+        QByteArray line = input.readLine();
+        if (line.endsWith('\n'))
+            line.chop(1);
+        const QStringList words = splitLine(userText(line));
         if (words.isEmpty() || words.first().startsWith(QLatin1Char('#')))
             continue;
         const QString prefix = run.prefix + QStringLiteral("line %1: ").arg(number);
-        worst = std::max(worst, runWords(words, {run.out, run.err, prefix, run.inherited, true}));
+        worst = std::max(
+            worst, runWords(words, {run.out, run.err, prefix, run.inherited, true, run.table}));
         run.out.flush();
     }
     return worst;

@@ -53,7 +53,10 @@ void releaseEarlyLog(bool)
 int main(int argc, char *argv[]) // NOLINT(bugprone-exception-escape)
 {
     QCoreApplication app(argc, argv);
-    const QStringList arguments = QCoreApplication::arguments();
+    // Bytes that are not UTF-8 are kept, to be shown escaped.
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i)
+        arguments << userText(QByteArray(argv[i]));
     releaseEarlyLog(verboseRequested(arguments));
     qInstallMessageHandler(libraryDiagnostic);
 

@@ -6,6 +6,7 @@
 #include <QtCore/QVector>
 
 #include <algorithm>
+#include <cmath>
 
 namespace {
 
@@ -102,6 +103,55 @@ void Outcome::noResult(const QString &note)
 {
     status = ExitNoResult;
     notes << note;
+}
+
+QString userText(const QByteArray &bytes)
+{
+    QString text = QString::fromUtf8(bytes);
+    if (!text.contains(QChar(QChar::ReplacementCharacter)))
+        return text;
+    // A sequence is well formed where it reads back to the same bytes.
+    QString kept;
+    for (int i = 0, length = 1; i < bytes.size(); i += length) {
+        QString piece;
+        for (length = 1; length <= 4 && i + length <= bytes.size(); ++length) {
+            piece = QString::fromUtf8(bytes.constData() + i, length);
+            if (piece.toUtf8() == bytes.mid(i, length))
+                break;
+        }
+        if (length > 4 || i + length > bytes.size()) {
+            piece = QChar(0xDC00 + uchar(bytes[i]));
+            length = 1;
+        }
+        kept += piece;
+    }
+    return kept;
+}
+
+QString shown(const QString &text, bool keepNewlines)
+{
+    QString out;
+    out.reserve(text.size());
+    for (int i = 0; i < text.size(); ++i) {
+        const char16_t c = text[i].unicode();
+        const bool paired =
+            QChar::isHighSurrogate(c)
+                ? i + 1 < text.size() && text[i + 1].isLowSurrogate()
+                : QChar::isLowSurrogate(c) && i > 0 && text[i - 1].isHighSurrogate();
+        if ((c >= 0x20 && c < 0x7F) || (c > 0x9F && !QChar::isSurrogate(c)) || paired
+            || (c == '\n' && keepNewlines))
+            out += QChar(c);
+        else if (c < 0xA0 || (c >= 0xDC80 && c <= 0xDCFF))
+            out += QStringLiteral("\\x%1").arg(c & 0xFF, 2, 16, QLatin1Char('0'));
+        else
+            out += QStringLiteral("\\u%1").arg(int(c), 4, 16, QLatin1Char('0'));
+    }
+    return out;
+}
+
+double decimalMHz(double mhz)
+{
+    return std::round(mhz * 1e9) / 1e9;
 }
 
 QString linkShort(saiskuko::Link link)

@@ -86,6 +86,18 @@ using saiskuko::cut;
 using saiskuko::echoed;
 using saiskuko::formatMHz;
 
+// A step or an offset as the decimal it stands for (to the millihertz), for
+// JSON: 0.005, not 0.005000000000109139. Centres keep their full precision.
+double decimalMHz(double mhz);
+
+// Bytes a user gave (an argument, a batch line) as text: UTF-8, each byte
+// that is not kept as U+DC80 to U+DCFF, so that shown() can name it.
+QString userText(const QByteArray &bytes);
+// Text as a terminal may show it: control characters (newlines too, unless
+// kept) and the bytes userText() kept as "\xNN", other lone surrogates as
+// "\uXXXX". Nothing a user typed moves the cursor or clears the screen.
+QString shown(const QString &text, bool keepNewlines = false);
+
 // "UL"/"DL", a link for people.
 QString linkShort(saiskuko::Link link);
 

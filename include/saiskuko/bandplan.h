@@ -185,6 +185,14 @@ struct Record
     /// Raster: centre of the second channel minus that of the first, MHz; 0
     /// for a record of one channel.
     double stepMHz = 0.0;
+    /// Lower end of the frequencies the record holds, MHz: its lowest channel
+    /// centre less half a raster step, or its lower edge where that lies
+    /// lower. Records of the band that state the same edges share them: the
+    /// edges then widen only the lowest and the highest of those records,
+    /// and a gap between them holds nothing (CDMA band class 10).
+    double spanLowMHz = 0.0;
+    /// Upper end of the frequencies the record holds, MHz (see #spanLowMHz).
+    double spanHighMHz = 0.0;
 };
 
 /// A band of the store: a small value (its slots and its place in the
@@ -310,8 +318,12 @@ struct SearchHit
     Band band;               ///< The band.
     Link link = Link::Down;  ///< The direction.
     int channel = -1;        ///< The nearest channel.
-    double channelMHz = 0.0; ///< Its centre, MHz.
+    double channelMHz = 0.0; ///< Its centre nearest the frequency, MHz.
     double offsetMHz = 0.0;  ///< Its centre minus the searched frequency, MHz.
+    /// The offset exceeds half the raster step of the channel's record (for a
+    /// record of one channel, half a hertz): the frequency is within the band
+    /// but off its raster, nearer an edge than a channel.
+    bool offRaster = false;
 };
 
 /// The technologies in slot order.
@@ -366,9 +378,12 @@ SAISKUKO_EXPORT QString cut(QStringView text);
 /// cut() in double quotes: how a message echoes an argument.
 SAISKUKO_EXPORT QString echoed(QStringView text);
 
-/// Every band and link holding @p mhz, nearest channel first: one hit per
-/// band and link, both links of a TDD band, real channels only, "Band Global"
-/// left out. Empty for a frequency no band holds, NaN or infinite.
+/// Every band and link with a record whose span (Record::spanLowMHz to
+/// Record::spanHighMHz, to half a hertz) holds @p mhz, nearest channel first
+/// (to the hertz), then by code, uplink first: one hit per band and link, both links of a TDD
+/// band, real channels only, "Band Global" left out. A frequency in a gap
+/// between a band's records is no hit. Empty for a frequency no band holds,
+/// NaN or infinite.
 /// @code
 /// for (const saiskuko::SearchHit &hit : saiskuko::search(1950.0))
 ///     qInfo() << hit.band.standard() << hit.channel << hit.offsetMHz;

@@ -6,39 +6,60 @@
 
 namespace saiskuko {
 
+namespace {
+
+// Half a hertz: every raster is a whole number of hertz.
+constexpr double kHalfHzMHz = 0.5e-6;
+
+// The hit of a band's link whose records span mhz: its nearest channel, that
+// channel's centre nearest to mhz, and whether it lies off the raster of the
+// record holding it. False where no record spans mhz.
+bool hitOf(const Band &band, Link link, double mhz, SearchHit *hit)
+{
+    const QList<Record> records = band.records(link);
+    const bool spanned = std::any_of(records.begin(), records.end(), [&](const Record &r) {
+        return r.spanLowMHz - kHalfHzMHz <= mhz && mhz <= r.spanHighMHz + kHalfHzMHz;
+    });
+    const Result<int> nearest = band.nearestChannel(link, mhz);
+    if (!spanned || !nearest.ok())
+        return false;
+    *hit = SearchHit{band, link, nearest.value(), HUGE_VAL, HUGE_VAL, false};
+    for (double centre : band.frequencies(link, hit->channel)) {
+        if (std::fabs(centre - mhz) < std::fabs(hit->offsetMHz)) {
+            hit->channelMHz = centre;
+            hit->offsetMHz = centre - mhz;
+        }
+    }
+    const auto holder = std::find_if(records.begin(), records.end(), [&](const Record &r) {
+        return r.firstChannel <= hit->channel && hit->channel <= r.lastChannel;
+    });
+    const double halfStep = holder == records.end() ? 0.0 : std::fabs(holder->stepMHz) / 2;
+    hit->offRaster = std::fabs(hit->offsetMHz) > halfStep + kHalfHzMHz;
+    return true;
+}
+
+} // namespace
+
 QList<SearchHit> search(double mhz)
 {
     QList<SearchHit> hits;
     if (!std::isfinite(mhz))
         return hits;
-    const ChBandStore &s = typed::store();
-    for (const ChInfo &info : s.GetChInfoFromFreq(mhz)) {
-        const auto t = s.TechIndexMap.constFind(info.techName);
-        if (t == s.TechIndexMap.constEnd() || info.channelNo < 0)
-            continue;
-        const QMap<QString, int> &bandMap = s.Technologies[t.value()].BandIndexMap;
-        const auto b = bandMap.constFind(info.bandName);
-        if (b == bandMap.constEnd())
-            continue;
-        const Band band = BandAccess::make(t.value(), b.value());
+    for (const Band &band : allBands()) {
         if (band.isGlobal())
             continue;
-        // A TDD band holds the frequency in both directions, however many
-        // records the store found it in.
-        QList<Link> links{info.linkDirection == 1 ? Link::Up : Link::Down};
-        if (band.duplex() == Duplex::Tdd)
-            links = {Link::Up, Link::Down};
-        for (Link link : links) {
-            // A band can hold the frequency in several records of one link;
-            // the first hit is the nearest, the others add nothing.
-            const bool seen = std::any_of(hits.begin(), hits.end(), [&](const SearchHit &h) {
-                return h.band == band && h.link == link;
-            });
-            const Result<double> centre = band.frequency(link, info.channelNo);
-            if (!seen && centre.ok())
-                hits.append(SearchHit{band, link, info.channelNo, centre.value(), info.freqOffset});
+        SearchHit hit;
+        for (Link link : band.links()) {
+            if (hitOf(band, link, mhz, &hit))
+                hits.append(hit);
         }
     }
+    // Nearest first to the hertz, as the offsets print; else by code.
+    const auto hertz = [](const SearchHit &h) {
+        return std::llround(std::fabs(h.offsetMHz) * 1e6);
+    };
+    std::stable_sort(hits.begin(), hits.end(),
+                     [&](const SearchHit &a, const SearchHit &b) { return hertz(a) < hertz(b); });
     return hits;
 }
 

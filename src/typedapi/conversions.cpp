@@ -35,6 +35,11 @@ constexpr double kSameCentreMHz = 0.5e-6;
 // grew from the first channel to the last (or, falling, walked this far).
 constexpr qint64 kWalkLimit = qint64(1) << 20;
 
+struct Range
+{
+    double low, high;
+};
+
 double centreOf(const stSubBand &r, qint64 channel)
 {
     return recordFreq(r, int(channel));
@@ -228,8 +233,21 @@ void offerNearest(const stSubBand &r, const RecordSearch &facts, double mhz, Nea
         best->consider(ch, centreOf(r, ch), mhz);
 }
 
-// The record as the typed API reports it.
-Record reported(const stSubBand &r)
+// The record's channel centres, widened by half a raster step each way.
+Range centreRange(const stSubBand &r)
+{
+    const double first = recordFreq(r, r.StartChannelNo);
+    const double last = recordFreq(r, r.StopChannelNo);
+    const double halfStep = r.StartChannelNo < r.StopChannelNo
+                                ? std::fabs(recordFreq(r, r.StartChannelNo + 1) - first) / 2
+                                : 0.0;
+    return {std::fmin(first, last) - halfStep, std::fmax(first, last) + halfStep};
+}
+
+// The record as the typed API reports it. Its span reaches out to its edges
+// on a side where no other record of the band stating the same edges lies
+// further out: edges shared by records hold nothing between them.
+Record reported(const ChBand &data, const stSubBand &r)
 {
     Record record;
     record.link = r.Link == 1 ? Link::Up : Link::Down;
@@ -241,6 +259,19 @@ Record reported(const stSubBand &r)
     record.lastMHz = recordFreq(r, r.StopChannelNo);
     if (r.StartChannelNo < r.StopChannelNo)
         record.stepMHz = recordFreq(r, r.StartChannelNo + 1) - record.firstMHz;
+    const Range own = centreRange(r);
+    bool lowest = true, highest = true;
+    const int n = ::recordCount(data);
+    for (int i = 0; i < n; ++i) {
+        const stSubBand &other = data.SubBands[i];
+        if (isPlaceholder(other) || other.StartFreq != r.StartFreq || other.StopFreq != r.StopFreq)
+            continue;
+        const Range span = centreRange(other);
+        lowest = lowest && span.low >= own.low;
+        highest = highest && span.high <= own.high;
+    }
+    record.spanLowMHz = lowest ? std::fmin(own.low, r.StartFreq) : own.low;
+    record.spanHighMHz = highest ? std::fmax(own.high, r.StopFreq) : own.high;
     return record;
 }
 
@@ -293,7 +324,7 @@ QList<Record> Band::records(Link link) const
     if (!data)
         return out;
     anyRecord(*data, link, cachedDuplex(m_tech, m_band, *data), [&](const stSubBand &r) {
-        out << reported(r);
+        out << reported(*data, r);
         return false;
     });
     return out;
@@ -306,7 +337,7 @@ QList<Record> Band::records() const
     const int n = data ? ::recordCount(*data) : 0;
     for (int i = 0; i < n; ++i) {
         if (!isPlaceholder(data->SubBands[i]))
-            out << reported(data->SubBands[i]);
+            out << reported(*data, data->SubBands[i]);
     }
     return out;
 }

@@ -67,9 +67,13 @@ private slots:
             const char *rows;
         } tables[] = {
             // P-GSM's uplink starts at 890: touching the window's edge is not in it.
+            // E-GSM's two uplink blocks are two bars.
             {880.0, 890.0, Technology::Gsm,
-             "GSM 850 [102] D|E-GSM 900 [104] U|R-GSM 900 [105] U|R-GSM 900 (China) [106] U"},
+             "GSM 850 [102] D|E-GSM 900 [104] UU|R-GSM 900 [105] UU|R-GSM 900 (China) [106] U"},
             {2310.0, 2390.0, Technology::LteTdd, "Band 40 (2300) [308] T"},
+            // Band class 10's blocks state shared edges: the gap between them holds nothing.
+            {880.0, 885.0, Technology::Cdma,
+             "Band 0 (800) [0] D|Band 2 (TACS) [2] U|Band 9 (900) [9] U"},
             {3400.0, 3405.0, Technology::Nr,
              "Band n77 (TD 3700) [723] T|Band n78 (TD 3500) [724] T"}};
         for (const auto &table : tables) {
