@@ -157,6 +157,10 @@ void defineTypes(py::module_ &m)
         .def_readonly("last_mhz", &Record::lastMHz, "Centre of the last channel, MHz.")
         .def_readonly("step_mhz", &Record::stepMHz,
                       "Centre of the second channel minus that of the first, MHz (0 for one).")
+        .def_readonly("span_low_mhz", &Record::spanLowMHz,
+                      "Lower end of the frequencies the record holds (what search() reads), MHz.")
+        .def_readonly("span_high_mhz", &Record::spanHighMHz,
+                      "Upper end of the frequencies the record holds, MHz.")
         .def("__repr__", &recordRepr);
 
     py::class_<SearchHit>(m, "Hit", "One answer of search(): a band and link holding a frequency.")
@@ -166,6 +170,8 @@ void defineTypes(py::module_ &m)
         .def_readonly("centre_mhz", &SearchHit::channelMHz, "That channel's centre, MHz.")
         .def_readonly("offset_mhz", &SearchHit::offsetMHz,
                       "The channel's centre minus the searched frequency, MHz.")
+        .def_readonly("off_raster", &SearchHit::offRaster,
+                      "True where the offset exceeds half the record's raster step.")
         .def("__repr__", &hitRepr);
 }
 

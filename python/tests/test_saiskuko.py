@@ -107,3 +107,5 @@ def test_links_bands_and_hits_in_python_manners():
     for hit in hits:
         assert hit.band.frequency(hit.channel, hit.link) == hit.centre_mhz
         assert hit.offset_mhz == hit.centre_mhz - 1950.0
+        assert any(r.span_low_mhz <= 1950.0 <= r.span_high_mhz for r in hit.band.records)
+    assert [h.band.code for h in saiskuko.search(2010.0) if h.off_raster] == [230, 235, 404, 404, 405, 405]
