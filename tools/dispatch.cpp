@@ -44,10 +44,12 @@ QString unmarked(const QString &argument)
     return argument.startsWith(kNumberMark) ? argument.mid(1) : argument;
 }
 
-// The last table a batch printed: its command, heading and column header.
+// The last table a batch printed: its command, heading, column headers and
+// column widths.
 struct BatchTable
 {
     QString command, heading, header;
+    QVector<int> widths;
 };
 
 // Where one run writes: its streams and the prefix of its messages; in batch
@@ -63,24 +65,32 @@ struct Run
 };
 
 // An outcome's text; in batch a run of lines of one command shows its column
-// header once (widths aside), and its heading (the band) where it changes.
+// header once, its rows as wide as the widest before them, and its heading
+// (the band) where it changes.
 QString tableText(const Outcome &outcome, const QString &command, BatchTable *last)
 {
-    QString text = outcome.text();
     if (!last || outcome.columns.isEmpty()) {
         if (last)
             *last = {};
-        return text;
+        return outcome.text();
     }
+    QStringList headers;
+    for (const Column &column : outcome.columns)
+        headers << column.header;
+    const QString header = headers.join(QLatin1Char('|'));
+    const bool sameCommand = command == last->command;
+    const bool sameHeader = sameCommand && header == last->header;
+    if (!sameHeader)
+        last->widths.clear();
+    const QString text = outcome.text(&last->widths);
     const int headingEnd = outcome.heading.isEmpty() ? 0 : int(text.indexOf(QLatin1Char('\n'))) + 1;
     const int headerEnd = int(text.indexOf(QLatin1Char('\n'), headingEnd)) + 1;
-    const BatchTable table{command, text.left(headingEnd),
-                           text.mid(headingEnd, headerEnd - headingEnd).simplified()};
-    const bool sameCommand = table.command == last->command;
-    const bool sameHeading = sameCommand && table.heading == last->heading;
-    const bool sameHeader = sameCommand && table.header == last->header;
-    *last = table;
-    return (sameHeading ? QString() : table.heading)
+    const QString heading = text.left(headingEnd);
+    const bool sameHeading = sameCommand && heading == last->heading;
+    last->command = command;
+    last->heading = heading;
+    last->header = header;
+    return (sameHeading ? QString() : heading)
            + (sameHeader ? QString() : text.mid(headingEnd, headerEnd - headingEnd))
            + text.mid(headerEnd);
 }

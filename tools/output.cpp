@@ -21,13 +21,13 @@ QString cellText(const Cell &cell)
 
 // Columns padded to their widest line, two blanks apart, no trailing blanks;
 // a cell of several lines makes its row as tall. Columns without a header are
-// JSON only.
-QString table(const QList<Column> &columns, const QList<Row> &rows)
+// JSON only. @p widths carries the widths from and to an earlier table.
+QString table(const QList<Column> &columns, const QList<Row> &rows, QVector<int> &widths)
 {
     Row header;
     for (const Column &column : columns)
         header << Cell(QJsonValue(), column.header);
-    QVector<int> widths(columns.size());
+    widths.resize(columns.size());
     QList<QList<QStringList>> cells; // every row's cells as lines, the header first
     for (const Row &row : QList<Row>{header} + rows) {
         cells << QList<QStringList>();
@@ -74,11 +74,13 @@ QList<Column> columns(std::initializer_list<const char *> descriptions)
     return list;
 }
 
-QString Outcome::text() const
+QString Outcome::text(QVector<int> *widths) const
 {
     if (columns.isEmpty())
         return heading;
-    return (heading.isEmpty() ? QString() : heading + QLatin1Char('\n')) + table(columns, rows);
+    QVector<int> own;
+    return (heading.isEmpty() ? QString() : heading + QLatin1Char('\n'))
+           + table(columns, rows, widths ? *widths : own);
 }
 
 QJsonObject Outcome::result() const

@@ -8,6 +8,7 @@
 #include <QtCore/QList>
 #include <QtCore/QString>
 #include <QtCore/QStringList>
+#include <QtCore/QVector>
 
 #include <initializer_list>
 #include <utility>
@@ -75,7 +76,10 @@ struct Outcome
     int status = ExitOk;
     QStringList notes;
 
-    QString text() const;
+    // The heading and the table. Given @p widths, columns are at least as wide
+    // as they say and they come back as wide as the table made them, so that
+    // tables printed one after another line up.
+    QString text(QVector<int> *widths = nullptr) const;
     QJsonObject result() const;
     // A valid query without an answer: exit status 1, and why.
     void noResult(const QString &note);

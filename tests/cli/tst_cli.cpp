@@ -206,21 +206,25 @@ private slots:
     void batchGoesOnPastBadLines()
     {
         const Run run = saiskuko(QStringLiteral("batch"),
-                                 "freq LTE:1 300\nfreq LTE:1 x\n\n# note\nfreq LTE:1 301\nchannel "
-                                 "LTE:1 2140.05\nfreq \xff\x1b 1\nsearch 460.01\nsearch 460.01\n");
+                                 "freq LTE:1 300\nfreq LTE:1 x\n\n# note\nfreq LTE:1 301\nfreq n78 "
+                                 "636666\nfreq n78 620000\nchannel LTE:1 2140.05\nfreq \xff\x1b 1\n"
+                                 "search 460.01\nsearch 460.01\n");
         QCOMPARE(run.status, 2);
         const QString search =
             QStringLiteral("460.01     5  CDMA  Band 5 (450)  DL         1  460          -0.01\n");
-        QCOMPARE(run.out,
-                 QStringLiteral(
-                     "LTE-FDD - Band 1 (2100) [201]\nCHANNEL  UL MHZ  DL MHZ  PAIRED\n300      -   "
-                     "    2140    UL 18300 1950\n301      -       2140.1  UL 18301 1950.1\nMHZ     "
-                     "CODE  TECH  BAND          DIR  CHANNEL  CHANNEL MHZ  OFFSET MHZ\n")
-                     + search + search);
+        QCOMPARE(
+            run.out,
+            QStringLiteral(
+                "LTE-FDD - Band 1 (2100) [201]\nCHANNEL  UL MHZ  DL MHZ  PAIRED\n300      -   "
+                "    2140    UL 18300 1950\n301      -       2140.1  UL 18301 1950.1\n5G NR - Band "
+                "n78 (TD 3500) [724]\nCHANNEL  UL MHZ   DL MHZ\n636666   3549.99  3549.99\n"
+                "620000   3300     3300\nMHZ     "
+                "CODE  TECH  BAND          DIR  CHANNEL  CHANNEL MHZ  OFFSET MHZ\n")
+                + search + search);
         QVERIFY(run.err.startsWith(QStringLiteral(
             "saiskuko: line 2: channel \"x\" is not a whole number\nsaiskuko: "
-            "line 6: 2140.05 MHz is not a channel centre of LTE-FDD - Band 1 "
-            "(2100) (try: --nearest)\nsaiskuko: line 7: cannot read band \"\\xff\\x1b\"")));
+            "line 8: 2140.05 MHz is not a channel centre of LTE-FDD - Band 1 "
+            "(2100) (try: --nearest)\nsaiskuko: line 9: cannot read band \"\\xff\\x1b\"")));
     }
 
     void failedWriteIsAnError()
