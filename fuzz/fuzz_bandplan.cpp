@@ -125,18 +125,20 @@ void checkPaired(const Band &b, Link link, int channel)
     FUZZ_CHECK(back.ok() && back.value() == channel);
 }
 
-// Every hit converts back to its own channel frequency, nearest first.
+// Every hit converts back to its own channel frequency, nearest first to the
+// hertz (offsets equal to the hertz keep band order).
 void checkSearch(double mhz)
 {
     const QList<saiskuko::SearchHit> hits = saiskuko::search(mhz);
     FUZZ_CHECK(std::isfinite(mhz) || hits.isEmpty());
-    double previous = 0.0;
+    long long previous = 0;
     for (const saiskuko::SearchHit &hit : hits) {
         FUZZ_CHECK(hit.band.isValid() && !hit.band.isGlobal());
         FUZZ_CHECK(hit.band.frequencies(hit.link, hit.channel).contains(hit.channelMHz));
         FUZZ_CHECK(hit.offsetMHz == hit.channelMHz - mhz);
-        FUZZ_CHECK(std::fabs(hit.offsetMHz) >= previous);
-        previous = std::fabs(hit.offsetMHz);
+        const long long hertz = std::llround(std::fabs(hit.offsetMHz) * 1e6);
+        FUZZ_CHECK(hertz >= previous);
+        previous = hertz;
     }
 }
 

@@ -16,14 +16,18 @@ constexpr double kHalfHzMHz = 0.5e-6;
 // record holding it. False where no record spans mhz.
 bool hitOf(const Band &band, Link link, double mhz, SearchHit *hit)
 {
+    // Most bands have no channel near mhz: their records are never built.
+    double low, high;
+    const int nearest = typed::nearestChannelOrNone(band, link, mhz, &low, &high);
+    if (nearest < 0)
+        return false;
     const QList<Record> records = band.records(link);
     const bool spanned = std::any_of(records.begin(), records.end(), [&](const Record &r) {
         return r.spanLowMHz - kHalfHzMHz <= mhz && mhz <= r.spanHighMHz + kHalfHzMHz;
     });
-    const Result<int> nearest = band.nearestChannel(link, mhz);
-    if (!spanned || !nearest.ok())
+    if (!spanned)
         return false;
-    *hit = SearchHit{band, link, nearest.value(), HUGE_VAL, HUGE_VAL, false};
+    *hit = SearchHit{band, link, nearest, HUGE_VAL, HUGE_VAL, false};
     for (double centre : band.frequencies(link, hit->channel)) {
         if (std::fabs(centre - mhz) < std::fabs(hit->offsetMHz)) {
             hit->channelMHz = centre;

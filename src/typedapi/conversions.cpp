@@ -434,25 +434,42 @@ Result<QList<int>> Band::channelsAt(Link link, double mhz) const
     return noChannelAt(*this, link, mhz);
 }
 
-Result<int> Band::nearestChannel(Link link, double mhz) const
+namespace typed {
+
+int nearestChannelOrNone(const Band &band, Link link, double mhz, double *low, double *high)
 {
-    const ChBand *data = bandData(*this);
-    if (Q_UNLIKELY(!data || !std::isfinite(mhz)))
-        return noChannelAt(*this, link, mhz);
-    const Duplex duplex = cachedDuplex(m_tech, m_band, *data);
-    double low = HUGE_VAL, high = -HUGE_VAL;
+    const ChBand *data = bandData(band);
+    *low = HUGE_VAL;
+    *high = -HUGE_VAL;
+    if (!data || !std::isfinite(mhz))
+        return -1;
+    const int tech = BandAccess::tech(band), slot = BandAccess::slot(band);
     Nearest best;
-    eachSearchedRecord(m_tech, m_band, *data, link, duplex,
+    eachSearchedRecord(tech, slot, *data, link, cachedDuplex(tech, slot, *data),
                        [&](const stSubBand &r, const RecordSearch &facts) {
-                           low = std::fmin(low, r.StartFreq);
-                           high = std::fmax(high, r.StopFreq);
-                           centreSpan(r, facts, &low, &high);
+                           *low = std::fmin(*low, r.StartFreq);
+                           *high = std::fmax(*high, r.StopFreq);
+                           centreSpan(r, facts, low, high);
                            offerNearest(r, facts, mhz, &best);
                        });
     // A channel centred on an edge counts from half a hertz away, as in channelsAt().
-    if (Q_LIKELY(low - kSameCentreMHz <= mhz && mhz <= high + kSameCentreMHz && best.channel >= 0))
-        return int(best.channel);
-    if (!anyRecord(*data, link, duplex, [](const stSubBand &) { return true; }))
+    const bool within = *low - kSameCentreMHz <= mhz && mhz <= *high + kSameCentreMHz;
+    return within && best.channel >= 0 ? int(best.channel) : -1;
+}
+
+} // namespace typed
+
+Result<int> Band::nearestChannel(Link link, double mhz) const
+{
+    double low, high;
+    const int channel = typed::nearestChannelOrNone(*this, link, mhz, &low, &high);
+    if (Q_LIKELY(channel >= 0))
+        return channel;
+    const ChBand *data = bandData(*this);
+    if (Q_UNLIKELY(!data || !std::isfinite(mhz)))
+        return noChannelAt(*this, link, mhz);
+    if (!anyRecord(*data, link, cachedDuplex(m_tech, m_band, *data),
+                   [](const stSubBand &) { return true; }))
         return linkNotServed(*this, link);
     return failure(
         ErrorCode::FrequencyNotInBand,

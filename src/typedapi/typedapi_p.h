@@ -101,6 +101,10 @@ inline Error failure(ErrorCode code, const QString &message)
 // "downlink" or "uplink" (any other value reads as its number).
 QString linkWord(Link link);
 
+// Band::nearestChannel's answer, or -1 with no message built (searches ask
+// every band); *low and *high get the range it searched, MHz.
+int nearestChannelOrNone(const Band &band, Link link, double mhz, double *low, double *high);
+
 } // namespace typed
 } // namespace saiskuko
 
